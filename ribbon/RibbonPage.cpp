@@ -3,6 +3,7 @@
 
 #include "RibbonPage_p.h"
 
+#include "DeferredPolish.h"
 #include "RibbonGroup.h"
 
 #include <QtWidgets/QHBoxLayout>
@@ -31,6 +32,7 @@ RibbonPage::RibbonPage(RibbonPagePrivate &dd, QWidget *parent)
     Q_D(RibbonPage);
     d->q_ptr = this;
     setLayout(d->layout);
+    new DeferredPolish(this);
 }
 
 RibbonPage::~RibbonPage() = default;
@@ -38,6 +40,7 @@ RibbonPage::~RibbonPage() = default;
 RibbonGroup *RibbonPage::addGroup(const QString &title)
 {
     Q_D(RibbonPage);
+    ensurePolished();
     auto *group = new RibbonGroup(title, this);
     d->layout->addWidget(group);
     d->groups.append(group);

@@ -3,6 +3,7 @@
 
 #include "RibbonStackedWidget_p.h"
 
+#include "OffstagePages.h"
 #include "RibbonPage.h"
 
 namespace Norvane {
@@ -18,6 +19,7 @@ RibbonStackedWidget::RibbonStackedWidget(RibbonStackedWidgetPrivate &dd, QWidget
 {
     Q_D(RibbonStackedWidget);
     d->q_ptr = this;
+    d->offstagePages = new OffstagePages(this);
     setFixedHeight(95);
 }
 
@@ -26,6 +28,7 @@ RibbonStackedWidget::~RibbonStackedWidget() = default;
 int RibbonStackedWidget::addPage(const QString &title, RibbonPage *page)
 {
     Q_D(RibbonStackedWidget);
+    d->offstagePages->watch(page);
     addWidget(page);
     d->pages.insert(title, page);
     return indexOf(page);

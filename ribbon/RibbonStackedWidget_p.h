@@ -9,6 +9,8 @@
 
 namespace Norvane {
 
+class OffstagePages;
+
 class RibbonStackedWidgetPrivate
 {
     Q_DECLARE_PUBLIC(RibbonStackedWidget)
@@ -19,6 +21,7 @@ public:
     // Callers rely on its size, the number of different titles, as the bound of hiding and showing.
     QHash<QString, RibbonPage *> pages;
     RibbonStackedWidget *q_ptr = nullptr;
+    OffstagePages *offstagePages = nullptr;
 };
 
 } // namespace Norvane

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "DeferredPolish.h"
+
+#include <QtCore/QChildEvent>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QWidget>
+
+namespace Norvane {
+
+DeferredPolish::DeferredPolish(QWidget *page)
+    : QObject(page)
+    , m_page(page)
+{
+    page->installEventFilter(this);
+}
+
+bool DeferredPolish::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ChildAdded:
+        watch(static_cast<QChildEvent *>(event)->child());
+        return false;
+    case QEvent::PolishRequest:
+        return watched != m_page;
+    case QEvent::Show:
+    case QEvent::Paint:
+        if (watched == m_page)
+            finish();
+        return false;
+    default:
+        return false;
+    }
+}
+
+void DeferredPolish::watch(QObject *widget)
+{
+    if (!widget->isWidgetType())
+        return;
+    widget->installEventFilter(this);
+    for (QObject *child : widget->children())
+        watch(child);
+}
+
+void DeferredPolish::finish()
+{
+    m_page->removeEventFilter(this);
+    // What the page's name and properties select may have changed since it was polished.
+    m_page->style()->polish(m_page);
+    const QList<QWidget *> widgets = m_page->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        widget->removeEventFilter(this);
+        widget->ensurePolished();
+    }
+    deleteLater();
+}
+
+} // namespace Norvane
