@@ -24,6 +24,8 @@ public:
 
     QSize sizeHint() const override { return minimumSize(); }
     QSize minimumSize() const override { return {0, wid->minimumHeight()}; }
+    QSize maximumSize() const override { return wid->maximumSize(); }
+    Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
     bool hasHeightForWidth() const override { return false; }
 };
 
