@@ -3,6 +3,8 @@
 
 #include "TestCase.h"
 
+#include <Norvane/RibbonBar.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QScopeGuard>
 #include <QtWidgets/QApplication>
@@ -10,11 +12,15 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFrame>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStatusBar>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -87,6 +93,7 @@ private Q_SLOTS:
     void scrollBarArrows();
     void indicators();
     void spinAndComboArrows();
+    void ribbonSheetEndsWithItsBarAndTheFrameSheetStays();
 };
 
 void StyleHooks::verticalPanelIs35Wide()
@@ -290,6 +297,30 @@ void StyleHooks::spinAndComboArrows()
     QVERIFY(shows(spin, buttons.translated(0, spin->height() / 2), Ink));
     QVERIFY(shows(combo, QRect(combo->width() - 20, 0, 20, combo->height()), Ink));
     QVERIFY(!shows(combo, QRect(0, 0, combo->width() - 20, combo->height()), Ink));
+}
+
+void StyleHooks::ribbonSheetEndsWithItsBarAndTheFrameSheetStays()
+{
+    qApp->setStyleSheet(sheet(u":/norvane/norvanelight.css"_s));
+    const auto restore = qScopeGuard([] { qApp->setStyleSheet({}); });
+    const QColor border(125, 125, 125);
+    auto bar = std::make_unique<Norvane::RibbonBar>();
+    QLineEdit edit(bar.get());
+    edit.setGeometry(10, 40, 80, 24);
+    bar->show();
+    QCOMPARE(edit.grab().toImage().pixelColor(0, 12), border);
+
+    edit.setParent(nullptr);
+    bar.reset();
+    edit.show();
+    QVERIFY(edit.grab().toImage().pixelColor(0, 12) != border);
+
+    QMenu menu;
+    QAction *action = menu.addAction(u"Open"_s);
+    menu.popup(QPoint(0, 0));
+    // 28 and the line around it.
+    QCOMPARE(menu.actionGeometry(action).height(), 30);
+    QCOMPARE(menu.grab().toImage().pixelColor(0, menu.height() / 2), border);
 }
 
 NORVANE_TEST_MAIN(StyleHooks)
