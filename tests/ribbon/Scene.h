@@ -6,6 +6,7 @@
 #include "ribbon/RibbonButton.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QRegion>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -74,14 +75,21 @@ public:
     }
 };
 
+inline bool isClose(const QColor &one, const QColor &other, int tolerance)
+{
+    return qAbs(one.red() - other.red()) <= tolerance
+        && qAbs(one.green() - other.green()) <= tolerance
+        && qAbs(one.blue() - other.blue()) <= tolerance;
+}
+
 //! What a widget and its surroundings look like now, in the widget's own logical pixels.
 class Shot
 {
 public:
-    explicit Shot(QWidget *widget) :
-        m_image(widget->window()->grab().toImage().convertToFormat(QImage::Format_RGB32)),
-        m_origin(widget->mapTo(widget->window(), QPoint())),
-        m_ratio(qRound(m_image.devicePixelRatio()))
+    explicit Shot(QWidget *widget)
+        : m_image(widget->window()->grab().toImage().convertToFormat(QImage::Format_RGB32)),
+          m_origin(widget->mapTo(widget->window(), QPoint())),
+          m_ratio(qRound(m_image.devicePixelRatio()))
     {
     }
 
@@ -124,26 +132,30 @@ public:
     }
 
     //! Empty when every pixel of \a area has \a colour, else where the first other one is.
-    QString otherThan(const QColor &colour, const QRect &area) const
+    QString otherThan(const QColor &colour, const QRegion &area) const
     {
-        for (int y = area.top(); y <= area.bottom(); ++y) {
-            for (int x = area.left(); x <= area.right(); ++x) {
-                if (at(x, y) != colour) {
-                    return QStringLiteral("(%1, %2) is %3 in the mean, not %4")
-                        .arg(x).arg(y).arg(mean(x, y).name(), colour.name());
+        for (const QRect &rect : area) {
+            for (int y = rect.top(); y <= rect.bottom(); ++y) {
+                for (int x = rect.left(); x <= rect.right(); ++x) {
+                    if (at(x, y) != colour) {
+                        return QStringLiteral("(%1, %2) is %3 in the mean, not %4")
+                            .arg(x)
+                            .arg(y)
+                            .arg(mean(x, y).name(), colour.name());
+                    }
                 }
             }
         }
         return {};
     }
 
-    //! The smallest rectangle, in device pixels, with all device pixels of \a colour in \a area.
+    //! The smallest rectangle, in device pixels, with all pixels in \a area closest to \a colour.
     QRect bounds(const QColor &colour, const QRect &area) const
     {
         QRect found;
         for (int y = area.top() * m_ratio; y < (area.bottom() + 1) * m_ratio; ++y) {
             for (int x = area.left() * m_ratio; x < (area.right() + 1) * m_ratio; ++x) {
-                if (device(x, y) == colour)
+                if (isClose(device(x, y), colour, 127))
                     found |= QRect(x, y, 1, 1);
             }
         }
@@ -155,6 +167,32 @@ private:
     QPoint m_origin;
     int m_ratio;
 };
+
+//! A text whose letters are blocks that fill their cells.
+inline QString blocks(int count)
+{
+    return QString(count, QChar(0x2588));
+}
+
+inline int advanceOf(const QString &text)
+{
+    return QFontMetrics(QApplication::font()).horizontalAdvance(text);
+}
+
+//! Where a button shows the arrow of its menu.
+inline QRegion arrowOf(const Norvane::RibbonButton *button)
+{
+    if (!button->defaultAction()->menu())
+        return {};
+    switch (button->toolButtonStyle()) {
+    case Qt::ToolButtonTextUnderIcon:
+        return QRect((button->width() - 8) / 2, button->height() - 12, 8, 4);
+    case Qt::ToolButtonTextBesideIcon:
+        return QRect(button->width() - 14, (button->height() - 4) / 2, 8, 4);
+    default:
+        return {};
+    }
+}
 
 /*!
     Calls \a open, which is to open \a menu, and \a look as soon as the menu is there; then closes

@@ -214,13 +214,13 @@ void tst_RibbonButton::buttonDeletedBeforeActionAndMenu()
     delete button;
     action.setVisible(false);
     action.setVisible(true);
-    QVERIFY(whileOpen(&menu, [&] { menu.exec(scene.mapToGlobal(QPoint(5, 5))); }, [] { }));
+    QVERIFY(whileOpen(&menu, [&] { menu.exec(scene.mapToGlobal(QPoint(5, 5))); }, [] {}));
 }
 
 void tst_RibbonButton::menuDeletedBeforeButton()
 {
-    for (const auto mode : {QToolButton::DelayedPopup, QToolButton::MenuButtonPopup,
-                            QToolButton::InstantPopup}) {
+    for (const auto mode :
+         {QToolButton::DelayedPopup, QToolButton::MenuButtonPopup, QToolButton::InstantPopup}) {
         for (const bool isMenusOwnAction : {false, true}) {
             QAction action(QStringLiteral("Open"));
             auto *menu = new QMenu;
@@ -277,7 +277,8 @@ void tst_RibbonButton::smallSize_data()
                             QStringLiteral("Trailing  "), QStringLiteral("שמור בשם")};
     for (const QString &text : texts) {
         for (const bool hasMenu : {false, true}) {
-            const auto add = [&](const char *name, QToolButton::ToolButtonPopupMode mode, int width) {
+            const auto add = [&](const char *name, QToolButton::ToolButtonPopupMode mode,
+                                 int width) {
                 QTest::addRow("%s, %s, %s", qPrintable(text), name, hasMenu ? "menu" : "no menu")
                     << text << mode << hasMenu << width;
             };
@@ -351,8 +352,8 @@ void tst_RibbonButton::largeSize()
 {
     QFETCH(const QString, text);
     QFETCH(const int, textWidth);
-    for (const auto mode : {QToolButton::DelayedPopup, QToolButton::MenuButtonPopup,
-                            QToolButton::InstantPopup}) {
+    for (const auto mode :
+         {QToolButton::DelayedPopup, QToolButton::MenuButtonPopup, QToolButton::InstantPopup}) {
         for (const bool hasMenu : {false, true}) {
             QMenu menu;
             QAction action(text);
