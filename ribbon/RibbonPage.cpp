@@ -10,8 +10,34 @@
 
 namespace Norvane {
 
-RibbonPagePrivate::RibbonPagePrivate()
-    : layout(new QHBoxLayout)
+namespace {
+
+// Gives every group its width even where the page is too narrow for them: what does not fit is
+// clipped at the end of the row, where a plain box would squeeze all groups and cut each of them.
+class GroupRow : public QHBoxLayout
+{
+public:
+    void setGeometry(const QRect &rect) override
+    {
+        const int width = qMax(rect.width(), sizeHint().width());
+        QHBoxLayout::setGeometry({rect.topLeft(), QSize(width, rect.height())});
+        if (width == rect.width() || !parentWidget()->isRightToLeft())
+            return;
+        // The end is at the left here, and a layout item refuses a place left of its parent.
+        int left = rect.right() + 1;
+        for (int i = 0; i < count(); ++i) {
+            if (itemAt(i)->isEmpty())
+                continue;
+            QWidget *group = itemAt(i)->widget();
+            left -= group->width();
+            group->move(left, group->y());
+        }
+    }
+};
+
+} // namespace
+
+RibbonPagePrivate::RibbonPagePrivate() : layout(new GroupRow)
 {
     layout->setContentsMargins(3, 0, 0, 0);
     layout->setSpacing(0);
@@ -20,14 +46,9 @@ RibbonPagePrivate::RibbonPagePrivate()
 
 RibbonPagePrivate::~RibbonPagePrivate() = default;
 
-RibbonPage::RibbonPage(QWidget *parent)
-    : RibbonPage(*new RibbonPagePrivate, parent)
-{
-}
+RibbonPage::RibbonPage(QWidget *parent) : RibbonPage(*new RibbonPagePrivate, parent) { }
 
-RibbonPage::RibbonPage(RibbonPagePrivate &dd, QWidget *parent)
-    : QWidget(parent)
-    , d_ptr(&dd)
+RibbonPage::RibbonPage(RibbonPagePrivate &dd, QWidget *parent) : QWidget(parent), d_ptr(&dd)
 {
     Q_D(RibbonPage);
     d->q_ptr = this;
