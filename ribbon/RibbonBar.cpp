@@ -38,16 +38,14 @@ QString readStyleSheet(const QString &path)
 } // namespace
 
 RibbonBarPrivate::RibbonBarPrivate()
-    : tabBar(new RibbonTabBar)
-    , stackedWidget(new RibbonStackedWidget)
+    : tabBar(new RibbonTabBar), stackedWidget(new RibbonStackedWidget)
 {
     corner = new RibbonCorner;
 }
 
 RibbonBarPrivate::~RibbonBarPrivate() = default;
 
-RibbonBar::RibbonBar(QWidget *parent)
-    : RibbonBar(*new RibbonBarPrivate, parent)
+RibbonBar::RibbonBar(QWidget *parent) : RibbonBar(*new RibbonBarPrivate, parent)
 {
     Q_D(RibbonBar);
     setObjectName(QStringLiteral("RibbonBar"));
@@ -58,9 +56,7 @@ RibbonBar::RibbonBar(QWidget *parent)
     connect(d->tabBar, &RibbonTabBar::idClicked, this, &RibbonBar::signalCurrentPageChanged);
 }
 
-RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent)
-    : QFrame(parent)
-    , d_ptr(&dd)
+RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent) : QFrame(parent), d_ptr(&dd)
 {
     Q_D(RibbonBar);
     d->q_ptr = this;
@@ -75,6 +71,8 @@ RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent)
     d->stackedWidget->setParent(this);
     column->addItem(new StackItem(d->stackedWidget));
     setFixedHeight(column->sizeHint().height());
+    // A taller widget in the corner is cut: it must not push the pages out of the bar.
+    d->corner->setMaximumHeight(d->tabBar->height());
 }
 
 RibbonBar::~RibbonBar() = default;
