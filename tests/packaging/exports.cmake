@@ -3,7 +3,7 @@
 
 # The library exports the classes that have a public header, and nothing else.
 
-cmake_minimum_required(VERSION 3.22)
+cmake_minimum_required(VERSION 3.25)
 
 execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)

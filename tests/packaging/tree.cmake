@@ -4,7 +4,7 @@
 # Every source names its licence, and line ends are as .gitattributes wants them, whatever an
 # editor or a checkout made of them.
 
-cmake_minimum_required(VERSION 3.22)
+cmake_minimum_required(VERSION 3.25)
 
 file(GLOB files ${TREE}/* ${TREE}/.*)
 list(FILTER files INCLUDE REGEX "/(dev|CMakeLists\\.txt|\\.clang-[a-z]+|[^/]+\\.(json|md))$")
