@@ -102,8 +102,8 @@ QSize RibbonButtonPrivate::measure()
     Q_Q(RibbonButton);
     if (isLarge()) {
         textWidth = textSize().width();
-        const int width = std::max(largeIconSize.width() + 2 * largeIconMargin,
-                                   textWidth + 2 * largeTextMargin);
+        const int width =
+            std::max(largeIconSize.width() + 2 * largeIconMargin, textWidth + 2 * largeTextMargin);
         const int menuTop = largeMenuTop + largeIconTop + largeIconSize.height();
         menuRect = QRect(0, menuTop, width, largeHeight - menuTop);
         return {width, largeHeight};
@@ -112,8 +112,8 @@ QSize RibbonButtonPrivate::measure()
         textWidth = q->fontMetrics().horizontalAdvance(text());
         const int textEnd = smallLeftMargin + smallIconSize.width() + smallIconTextGap + textWidth;
         const int arrowRoom = arrowGap + arrowSize.width() + arrowRightMargin;
-        menuRect = QRect(textEnd + menuRectOverlap, 0, arrowRoom - menuRectOverlap,
-                         smallSize.height());
+        menuRect =
+            QRect(textEnd + menuRectOverlap, 0, arrowRoom - menuRectOverlap, smallSize.height());
         const bool withArrow = q->popupMode() != QToolButton::DelayedPopup;
         return {textEnd + (withArrow ? arrowRoom : smallRightMargin), smallSize.height()};
     }

@@ -128,8 +128,8 @@ void RibbonGroup::actionEvent(QActionEvent *event)
     } else if (action->isSeparator()) {
         control = d->createSeparator();
     } else {
-        control = RibbonControls::createButton(action, Qt::ToolButtonTextUnderIcon, d->popupMode,
-                                               this);
+        control =
+            RibbonControls::createButton(action, Qt::ToolButtonTextUnderIcon, d->popupMode, this);
     }
     if (control && d->contentLayout)
         d->contentLayout->addWidget(control);

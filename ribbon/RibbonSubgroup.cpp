@@ -88,8 +88,8 @@ void RibbonSubgroup::actionEvent(QActionEvent *event)
     if (auto *widgetAction = qobject_cast<QWidgetAction *>(action)) {
         control = RibbonControls::takeWidget(widgetAction, this);
     } else {
-        control = RibbonControls::createButton(action, Qt::ToolButtonTextBesideIcon, d->popupMode,
-                                               this);
+        control =
+            RibbonControls::createButton(action, Qt::ToolButtonTextBesideIcon, d->popupMode, this);
     }
     if (control)
         d->layout->addWidget(control);

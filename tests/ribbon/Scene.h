@@ -87,9 +87,9 @@ class Shot
 {
 public:
     explicit Shot(QWidget *widget)
-        : m_image(widget->window()->grab().toImage().convertToFormat(QImage::Format_RGB32)),
-          m_origin(widget->mapTo(widget->window(), QPoint())),
-          m_ratio(qRound(m_image.devicePixelRatio()))
+        : m_image(widget->window()->grab().toImage().convertToFormat(QImage::Format_RGB32))
+        , m_origin(widget->mapTo(widget->window(), QPoint()))
+        , m_ratio(qRound(m_image.devicePixelRatio()))
     {
     }
 

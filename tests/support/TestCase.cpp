@@ -25,7 +25,8 @@ void TestCase::cleanup()
     const QWidgetList left = QApplication::topLevelWidgets();
     QStringList names;
     for (const QWidget *widget : left)
-        names << QString::fromLatin1(widget->metaObject()->className()) + u' ' + widget->objectName();
+        names << QString::fromLatin1(widget->metaObject()->className()) + u' '
+                + widget->objectName();
     QVERIFY2(left.isEmpty(), qPrintable(QStringLiteral("left behind: ") + names.join(u", ")));
 }
 
