@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "Counter.h"
+#include "PlainSubject.h"
+#include "Recorder.h"
+#include "RibbonSubject.h"
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QPointer>
+#include <QtGui/QAction>
+#include <QtGui/QFontDatabase>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int temporaryPages = 4;
+constexpr int widest = 1600;
+constexpr int narrowest = 600;
+
+// Knows whether a widget has been painted since it was asked to watch for it.
+class PaintWitness : public QObject
+{
+public:
+    void watch(QWidget *widget)
+    {
+        if (m_widget)
+            m_widget->removeEventFilter(this);
+        m_widget = widget;
+        m_widget->installEventFilter(this);
+        m_painted = false;
+    }
+
+    // Returns when the widget is painted and nothing is left to do.
+    void wait()
+    {
+        for (int i = 0; !m_painted; ++i) {
+            if (i == 1000)
+                qFatal("%s is never painted", m_widget->metaObject()->className());
+            QCoreApplication::processEvents();
+        }
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) { }
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        Q_UNUSED(watched)
+        m_painted = m_painted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    QPointer<QWidget> m_widget;
+    bool m_painted = false;
+};
+
+QIcon createIcon(int number)
+{
+    QIcon icon;
+    for (const int size : {16, 24}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromHsv(number * 37 % 360, 200, 180));
+        painter.drawRect(number % 3, 2, size - 6, size - 4);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+QList<PageActions> createActions(int pages, int groups, int actions, QObject *parent)
+{
+    QList<PageActions> result(pages, PageActions(groups, GroupActions(actions)));
+    int number = 0;
+    for (PageActions &page : result) {
+        for (GroupActions &group : page) {
+            for (int a = 0; a < actions; ++a) {
+                const bool large = a % (largeRun + smallRun) < largeRun;
+                const QString text =
+                    large ? QStringLiteral("Arrange\nparts %1") : QStringLiteral("Adjust %1");
+                group[a] = new QAction(createIcon(number), text.arg(number), parent);
+                ++number;
+            }
+        }
+    }
+    return result;
+}
+
+QToolButton *firstButton(const Subject &subject, int page)
+{
+    return subject.page(page)->findChild<QToolButton *>();
+}
+
+void run(bool ribbon, bool filledFirst, const QList<PageActions> &pages, bool quick,
+         Recorder *recorder, const QString &picture)
+{
+    const int pageCount = int(pages.size());
+    const int permanent = pageCount - temporaryPages;
+    std::unique_ptr<Subject> subject;
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    // Neither the tabs of fifty pages nor a wide page may keep the window from getting narrow.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    PaintWitness witness;
+    const auto place = [&] {
+        layout->addWidget(subject->bar());
+        layout->addStretch();
+    };
+
+    recorder->memory(QStringLiteral("before fill"));
+    recorder->measure(QStringLiteral("fill"), 1, [&](int) {
+        if (ribbon)
+            subject = std::make_unique<RibbonSubject>();
+        else
+            subject = std::make_unique<PlainSubject>();
+        if (!filledFirst)
+            place();
+        subject->fill(pages, temporaryPages);
+    });
+    recorder->memory(QStringLiteral("after fill"));
+
+    witness.watch(firstButton(*subject, 0));
+    window.resize(widest, 400);
+    recorder->measure(QStringLiteral("first paint"), 1, [&](int) {
+        if (filledFirst)
+            place();
+        window.show();
+        witness.wait();
+    });
+    recorder->memory(QStringLiteral("after first paint"));
+    if (!picture.isEmpty())
+        window.grab().save(picture);
+
+    const auto visit = [&](int page) {
+        witness.watch(firstButton(*subject, page));
+        subject->setCurrentPage(page);
+        witness.wait();
+    };
+    recorder->measure(QStringLiteral("first visit"), permanent - 1, [&](int i) { visit(i + 1); });
+    recorder->memory(QStringLiteral("after visits"));
+    recorder->measure(QStringLiteral("page switch"), quick ? permanent : 5 * permanent,
+                      [&](int i) { visit(i % permanent); });
+
+    const int step = 10;
+    visit(0);
+    recorder->measure(QStringLiteral("resize step"), (widest - narrowest) / step, [&](int i) {
+        witness.watch(firstButton(*subject, 0));
+        window.resize(widest - (i + 1) * step, 400);
+        witness.wait();
+    });
+    window.resize(widest, 400);
+    QCoreApplication::processEvents();
+
+    const auto changeSection = [&](int section) {
+        const int first = permanent + 2 * section;
+        witness.watch(firstButton(*subject, first));
+        subject->changeSection(first, first + 1);
+        witness.wait();
+    };
+    recorder->measure(QStringLiteral("first section change"), 2, changeSection);
+    recorder->measure(QStringLiteral("section change"), quick ? 4 : 40,
+                      [&](int i) { changeSection(i % 2); });
+
+    visit(0);
+    const auto setEnabled = [&](bool enabled) {
+        witness.watch(firstButton(*subject, 0));
+        for (const PageActions &page : pages) {
+            for (const GroupActions &group : page) {
+                for (QAction *action : group)
+                    action->setEnabled(enabled);
+            }
+        }
+        witness.wait();
+    };
+    recorder->measure(QStringLiteral("disable and enable all"), quick ? 1 : 5, [&](int) {
+        setEnabled(false);
+        setEnabled(true);
+    });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QFontDatabase::addApplicationFont(QStringLiteral(":/benchmark/DejaVuSans.ttf"));
+    // The ribbon's sheet asks for a font that most machines lack.
+    QFont::insertSubstitution(QStringLiteral("微软雅黑"), QStringLiteral("DejaVu Sans"));
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+
+    const QCommandLineOption ribbonOption(QStringLiteral("ribbon"),
+                                          QStringLiteral("Measure the ribbon, else plain Qt."));
+    const QCommandLineOption filledFirstOption(
+        QStringLiteral("filled-first"), QStringLiteral("Fill the bar before it is in its window."));
+    const QCommandLineOption countOption(
+        QStringLiteral("count"), QStringLiteral("Count calls and events instead of the time."));
+    const QCommandLineOption quickOption(QStringLiteral("quick"),
+                                         QStringLiteral("Repeat each phase a few times only."));
+    const QCommandLineOption pictureOption(
+        QStringLiteral("picture"), QStringLiteral("Save the first frame."), QStringLiteral("file"));
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("size"),
+                                 QStringLiteral("Pages x groups x actions, e.g. 10x8x6."));
+    parser.addOptions({ribbonOption, filledFirstOption, countOption, quickOption, pictureOption});
+    parser.process(app);
+
+    const QStringList size = parser.positionalArguments().value(0).split(u'x');
+    const int pages = size.value(0).toInt();
+    const int groups = size.value(1).toInt();
+    const int actions = size.value(2).toInt();
+    if (pages < temporaryPages + 2 || groups < 1 || actions < 1)
+        parser.showHelp(1);
+
+    Counter *counter = nullptr;
+    if (parser.isSet(countOption)) {
+        counter = new Counter(QStringLiteral("Fusion"));
+        app.installEventFilter(counter);
+        QApplication::setStyle(counter);
+    } else {
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    }
+
+    QObject owner;
+    Recorder recorder(counter);
+    run(parser.isSet(ribbonOption), parser.isSet(filledFirstOption),
+        createActions(pages, groups, actions, &owner), parser.isSet(quickOption), &recorder,
+        parser.value(pictureOption));
+    std::puts(QJsonDocument(recorder.result()).toJson(QJsonDocument::Compact).constData());
+    return 0;
+}
