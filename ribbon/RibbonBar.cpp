@@ -38,14 +38,16 @@ QString readStyleSheet(const QString &path)
 } // namespace
 
 RibbonBarPrivate::RibbonBarPrivate()
-    : tabBar(new RibbonTabBar), stackedWidget(new RibbonStackedWidget)
+    : tabBar(new RibbonTabBar)
+    , stackedWidget(new RibbonStackedWidget)
 {
     corner = new RibbonCorner;
 }
 
 RibbonBarPrivate::~RibbonBarPrivate() = default;
 
-RibbonBar::RibbonBar(QWidget *parent) : RibbonBar(*new RibbonBarPrivate, parent)
+RibbonBar::RibbonBar(QWidget *parent)
+    : RibbonBar(*new RibbonBarPrivate, parent)
 {
     Q_D(RibbonBar);
     setObjectName(QStringLiteral("RibbonBar"));
@@ -56,7 +58,9 @@ RibbonBar::RibbonBar(QWidget *parent) : RibbonBar(*new RibbonBarPrivate, parent)
     connect(d->tabBar, &RibbonTabBar::idClicked, this, &RibbonBar::signalCurrentPageChanged);
 }
 
-RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent) : QFrame(parent), d_ptr(&dd)
+RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent)
+    : QFrame(parent)
+    , d_ptr(&dd)
 {
     Q_D(RibbonBar);
     d->q_ptr = this;

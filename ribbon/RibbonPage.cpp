@@ -37,7 +37,8 @@ public:
 
 } // namespace
 
-RibbonPagePrivate::RibbonPagePrivate() : layout(new GroupRow)
+RibbonPagePrivate::RibbonPagePrivate()
+    : layout(new GroupRow)
 {
     layout->setContentsMargins(3, 0, 0, 0);
     layout->setSpacing(0);
@@ -46,9 +47,14 @@ RibbonPagePrivate::RibbonPagePrivate() : layout(new GroupRow)
 
 RibbonPagePrivate::~RibbonPagePrivate() = default;
 
-RibbonPage::RibbonPage(QWidget *parent) : RibbonPage(*new RibbonPagePrivate, parent) { }
+RibbonPage::RibbonPage(QWidget *parent)
+    : RibbonPage(*new RibbonPagePrivate, parent)
+{
+}
 
-RibbonPage::RibbonPage(RibbonPagePrivate &dd, QWidget *parent) : QWidget(parent), d_ptr(&dd)
+RibbonPage::RibbonPage(RibbonPagePrivate &dd, QWidget *parent)
+    : QWidget(parent)
+    , d_ptr(&dd)
 {
     Q_D(RibbonPage);
     d->q_ptr = this;

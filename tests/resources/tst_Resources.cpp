@@ -176,7 +176,8 @@ void Resources::holdTheseEntriesAndNoOthers()
 void Resources::storageForm_data()
 {
     QTest::addColumn<QString>("path");
-    for (const QString &path : allPaths())
+    const QStringList paths = allPaths();
+    for (const QString &path : paths)
         QTest::newRow(path.toLatin1().constData()) << path;
 }
 

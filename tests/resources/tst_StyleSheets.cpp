@@ -114,7 +114,8 @@ void StyleSheets::rules()
 
     QStringList expected;
     const QString list = QString::fromUtf8(read(u":/rules/"_s + path.section(u'/', -1)));
-    for (const QString &line : list.split(u'\n', Qt::SkipEmptyParts)) {
+    const QStringList lines = list.split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
         if (line.startsWith(u"# ") || line == u"#")
             continue;
         const QStringList declarations = line.section(u" | "_s, 1).trimmed().split(u"; "_s);

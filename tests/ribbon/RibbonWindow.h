@@ -21,7 +21,11 @@
 class Patch : public QWidget
 {
 public:
-    Patch(const QColor &colour, QSize size) : m_colour(colour) { setFixedSize(size); }
+    Patch(const QColor &colour, QSize size)
+        : m_colour(colour)
+    {
+        setFixedSize(size);
+    }
 
     int presses = 0;
 

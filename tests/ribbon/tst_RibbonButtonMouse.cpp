@@ -555,12 +555,12 @@ void tst_RibbonButtonMouse::entryIsPicked()
     RibbonButton *button = scene.addButton(large, &action, QToolButton::MenuButtonPopup);
     QVERIFY(scene.open());
     QSignalSpy triggered(&action, &QAction::triggered);
-    QSignalSpy first(menu.actions().first(), &QAction::triggered);
-    QSignalSpy second(menu.actions().last(), &QAction::triggered);
+    QSignalSpy first(menu.actions().constFirst(), &QAction::triggered);
+    QSignalSpy second(menu.actions().constLast(), &QAction::triggered);
     QVERIFY(whileOpen(
         &menu, [&] { scene.press(button, QPoint(10, 50)); },
         [&] {
-            const QPoint entry = menu.actionGeometry(menu.actions().last()).center();
+            const QPoint entry = menu.actionGeometry(menu.actions().constLast()).center();
             QTest::mouseMove(menu.windowHandle(), entry);
             QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, entry);
             QVERIFY(!menu.isVisible());
@@ -703,7 +703,7 @@ void tst_RibbonButtonMouse::entryDeletesButton()
         Scene scene;
         QPointer<RibbonButton> button = scene.addButton(large, &action, mode);
         QVERIFY(scene.open());
-        QAction *entry = menu.actions().first();
+        QAction *entry = menu.actions().constFirst();
         connect(entry, &QAction::triggered, &menu, [&button] { delete button; });
         QVERIFY(whileOpen(
             &menu, [&] { scene.press(button, QPoint(10, 50)); },

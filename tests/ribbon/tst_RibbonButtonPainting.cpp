@@ -60,7 +60,8 @@ QColor between(const QColor &one, const QColor &other)
 std::unique_ptr<Shot> shotWhileOpening(QMenu *menu, const std::function<void()> &open)
 {
     std::unique_ptr<Shot> shot;
-    QObject::connect(menu, &QMenu::aboutToShow, menu, [&shot] {
+    const QObject context;
+    QObject::connect(menu, &QMenu::aboutToShow, &context, [&shot] {
         auto *window = QApplication::activeWindow();
         shot = std::make_unique<Shot>(window->findChild<RibbonButton *>());
     });
