@@ -1,0 +1,303 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "tour/Tour.h"
+
+#include "DocumentTabs.h"
+#include "MainWindow.h"
+#include "picture/PictureDocument.h"
+#include "picture/PictureView.h"
+#include "ribbon/FindField.h"
+#include "text/TextDocument.h"
+#include "text/TextEditor.h"
+#include "tour/Input.h"
+
+#include <QtCore/QDir>
+#include <QtGui/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
+
+namespace Workbench {
+
+using namespace Qt::StringLiterals;
+
+// The first visible widget of a kind under root that fits.
+template<typename Widget, typename Predicate>
+static Widget *findVisible(const QWidget *root, Predicate fits)
+{
+    for (Widget *widget : root->findChildren<Widget *>()) {
+        if (widget->isVisible() && fits(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+static QByteArray content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
+           const QString &pictureFolder)
+    : m_window(window), m_player(window, pictureFolder), m_samples(samples), m_paths(paths)
+{
+    connect(&m_player, &TourPlayer::finished, this, &Tour::finished);
+    showPaths();
+    openSamples();
+    editText();
+    find();
+    convertText();
+    zoom();
+    editPicture();
+    closeUnsaved();
+    readHelp();
+}
+
+void Tour::start()
+{
+    m_player.start();
+}
+
+void Tour::showPaths()
+{
+    m_player.add(
+        u"showing the window"_s,
+        [this] {
+            m_window->resize(1100, 720);
+            m_window->activateWindow();
+        },
+        [this] { return m_window->isActiveWindow() && m_window->width() == 1100; });
+    if (m_paths.isEmpty())
+        return;
+    m_player.add(
+        u"opening the files that were named"_s, [this] { m_window->open(m_paths); },
+        [this] { return document() != nullptr; });
+    m_player.addPicture(u"files"_s);
+    auto *tabs = m_window->findChild<DocumentTabs *>();
+    m_player.add(
+        u"closing them"_s,
+        [tabs] {
+            for (Document *document : tabs->documents())
+                tabs->remove(document);
+        },
+        [tabs] { return tabs->count() == 0; });
+}
+
+void Tour::openSamples()
+{
+    m_player.add(
+        u"opening copies of the samples"_s,
+        [this] {
+            const QDir samples(m_samples);
+            for (const QString &file : samples.entryList(QDir::Files))
+                QFile::copy(samples.filePath(file), copyOf(file));
+            m_window->open({m_folder.path()});
+        },
+        [this] { return m_window->findChild<DocumentTabs *>()->find(copyOf(u"About.txt"_s)); });
+    addTabClick(u"About.txt"_s);
+    m_player.add(
+        u"pointing at a button"_s,
+        [this] {
+            QToolButton *open = button(u"Open"_s);
+            Input::moveTo(open, open->rect().center() - QPoint(0, 20));
+        },
+        [this] { return button(u"Open"_s)->underMouse(); });
+    m_player.addPicture(u"home"_s);
+}
+
+void Tour::editText()
+{
+    m_player.add(
+        u"typing"_s,
+        [this] {
+            document()->setFocus();
+            Input::type(m_window, u"From the tour: "_s);
+        },
+        [this] {
+            return document()->isModified()
+                && document()->findChild<TextEditor *>()->toPlainText().startsWith(
+                    u"From the tour: "_s);
+        });
+    m_player.addPicture(u"typed"_s);
+    addButtonClick(u"Undo"_s, [this] { return !document()->isModified(); });
+    addButtonClick(u"Redo"_s, [this] { return document()->isModified(); });
+    addButtonClick(u"Save"_s, [this] {
+        return content(copyOf(u"About.txt"_s)).startsWith("From the tour: Welcome");
+    });
+    m_player.addPicture(u"saved"_s);
+}
+
+void Tour::find()
+{
+    m_player.add(
+        u"going to the find field"_s, [this] { Input::click(m_window->findChild<FindField *>()); },
+        [this] { return m_window->findChild<FindField *>()->hasFocus(); });
+    m_player.add(
+        u"finding"_s, [this] { Input::type(m_window, u"islands"_s); },
+        [this] {
+            return document()->findChild<TextEditor *>()->textCursor().selectedText().toLower()
+                == u"islands";
+        });
+    m_player.addPicture(u"found"_s);
+}
+
+void Tour::convertText()
+{
+    addTabClick(u"Menu.txt"_s);
+    addPageClick(u"Text"_s);
+    m_player.addPicture(u"text-page"_s);
+    addButtonClick(u"Sort"_s, [this] { return document()->isModified(); });
+    addButtonClick(u"Encoding"_s, [] { return QApplication::activePopupWidget() != nullptr; });
+    m_player.addPicture(u"encoding-menu"_s);
+    addMenuPick(TextCodec::name(TextCodec::Encoding::Utf16Le), [this] {
+        return static_cast<TextDocument *>(document())->encoding() == TextCodec::Encoding::Utf16Le;
+    });
+    m_player.addPicture(u"sorted"_s);
+}
+
+void Tour::zoom()
+{
+    addPageClick(u"View"_s);
+    addButtonClick(u"Zoom\nIn"_s, [this] { return document()->zoom() > 1; });
+    addButtonClick(u"Wrap\nLines"_s, [this] {
+        return document()->findChild<TextEditor *>()->lineWrapMode() != QPlainTextEdit::NoWrap;
+    });
+    addTabClick(u"About.txt"_s);
+    m_player.addPicture(u"view-page"_s);
+}
+
+void Tour::editPicture()
+{
+    const auto size = [this] { return document()->findChild<PictureView *>()->image().size(); };
+    addTabClick(u"Harbour.png"_s);
+    addPageClick(u"Picture"_s);
+    addButtonClick(u"Rotate\nRight"_s, [size] { return size() == QSize(400, 640); });
+    m_player.addPicture(u"rotated"_s);
+    addButtonClick(u"Rotate\nLeft"_s, [size] { return size() == QSize(640, 400); });
+    m_player.add(
+        u"selecting the lighthouse"_s,
+        [this] {
+            auto *view = document()->findChild<PictureView *>();
+            Input::drag(view->viewport(), view->fromImage(QPointF(20, 120)).toPoint(),
+                        view->fromImage(QPointF(380, 370)).toPoint());
+        },
+        [this] { return static_cast<PictureDocument *>(document())->canCrop(); });
+    m_player.addPicture(u"selected"_s);
+    addButtonClick(u"Crop to\nSelection"_s, [size] { return size() == QSize(360, 250); });
+    addButtonClick(u"Fit"_s,
+                   [this] { return static_cast<PictureDocument *>(document())->isFitted(); });
+    m_player.addPicture(u"cropped"_s);
+}
+
+void Tour::closeUnsaved()
+{
+    const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeModalWidget()); };
+    m_player.add(
+        u"closing what is not saved"_s,
+        [this] {
+            QWidget *close = tabBar()->tabButton(tabBar()->currentIndex(), QTabBar::RightSide);
+            Input::click(close);
+        },
+        [box] { return box() != nullptr; });
+    m_player.addPicture(u"close-asks"_s);
+    m_player.add(
+        u"thinking better of it"_s, [box] { Input::click(box()->button(QMessageBox::Cancel)); },
+        [this] {
+            return QApplication::activeModalWidget() == nullptr
+                && document()->title() == u"Harbour.png";
+        });
+}
+
+void Tour::readHelp()
+{
+    m_player.add(
+        u"asking for help"_s,
+        [this] { Input::click(m_window->findChild<QToolButton *>(u"helpButton"_s)); },
+        [] { return QApplication::activeModalWidget() != nullptr; });
+    m_player.addPicture(u"help"_s);
+    m_player.add(
+        u"leaving the help"_s,
+        [] { Input::press(QApplication::activeModalWidget(), Qt::Key_Escape); },
+        [] { return QApplication::activeModalWidget() == nullptr; });
+}
+
+void Tour::addPageClick(const QString &title)
+{
+    m_player.add(
+        u"going to the page "_s + title, [this, title] { Input::click(ribbonTab(title)); },
+        [this, title] { return qobject_cast<QPushButton *>(ribbonTab(title))->isChecked(); });
+}
+
+void Tour::addTabClick(const QString &file)
+{
+    m_player.add(
+        u"bringing "_s + file + u" to the front"_s,
+        [this, file] {
+            auto *tabs = m_window->findChild<DocumentTabs *>();
+            const int index = tabs->indexOf(tabs->find(copyOf(file)));
+            Input::click(tabBar(), tabBar()->tabRect(index).center());
+        },
+        [this, file] { return document()->title() == file; });
+}
+
+void Tour::addButtonClick(const QString &command, std::function<bool()> until)
+{
+    // The upper part of a button with a menu does what the button says.
+    m_player.add(
+        u"clicking on "_s + command,
+        [this, command] {
+            QToolButton *clicked = button(command);
+            Input::click(clicked,
+                         QPoint(clicked->width() / 2, std::min(14, clicked->height() / 2)));
+        },
+        std::move(until));
+}
+
+void Tour::addMenuPick(const QString &entry, std::function<bool()> until)
+{
+    m_player.add(
+        u"picking "_s + entry,
+        [entry] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            for (QAction *action : menu->actions()) {
+                if (action->text() == entry)
+                    Input::click(menu, menu->actionGeometry(action).center());
+            }
+        },
+        std::move(until));
+}
+
+QWidget *Tour::ribbonTab(const QString &title) const
+{
+    return findVisible<QPushButton>(m_window,
+                                    [&](const QPushButton *tab) { return tab->text() == title; });
+}
+
+QToolButton *Tour::button(const QString &command) const
+{
+    return findVisible<QToolButton>(m_window, [&](const QToolButton *button) {
+        return button->defaultAction() && button->defaultAction()->text() == command;
+    });
+}
+
+QTabBar *Tour::tabBar() const
+{
+    return m_window->findChild<DocumentTabs *>()->tabBar();
+}
+
+Document *Tour::document() const
+{
+    return m_window->findChild<DocumentTabs *>()->currentDocument();
+}
+
+QString Tour::copyOf(const QString &file) const
+{
+    return m_folder.filePath(file);
+}
+
+} // namespace Workbench
