@@ -26,9 +26,9 @@ public:
         // The end is at the left here, and a layout item refuses a place left of its parent.
         int left = rect.right() + 1;
         for (int i = 0; i < count(); ++i) {
-            if (itemAt(i)->isEmpty())
-                continue;
             QWidget *group = itemAt(i)->widget();
+            if (!group || itemAt(i)->isEmpty())
+                continue;
             left -= group->width();
             group->move(left, group->y());
         }

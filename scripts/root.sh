@@ -24,6 +24,7 @@ root_of() {
 }
 
 debian_mirror() {
+    # shellcheck disable=SC2016 # expanded by apt-get
     apt-get indextargets --format '$(REPO_URI)' \
         'Created-By: Packages' 'Origin: Debian' 'Label: Debian' 'Component: main' | awk 'NR == 1'
 }
@@ -36,6 +37,11 @@ make_root() {
     [ -e "$keyring" ] || tools+=(debian-archive-keyring)
     [ "$(id -u)" = 0 ] || command -v newuidmap >/dev/null || tools+=(uidmap)
     [ ${#tools[@]} -eq 0 ] || apt_install "${tools[@]}"
+    # Without ids of its own a user cannot own the files of a Debian.
+    if [ "$(id -u)" != 0 ] && ! grep -qs "^\($(id -un)\|$(id -u)\):" /etc/subuid; then
+        require_root "Making a private Debian 13, because Qt here is older than 6.8," \
+            "usermod --add-subuids 100000-165535 --add-subgids 100000-165535 $(id -un)"
+    fi
     mirror=$(debian_mirror)
     [ -n "$mirror" ] || die "apt-get knows no Debian mirror to make the private root from;" \
         "please install Qt 6.8 or later (Debian's names):" "$(missing "$@")"
@@ -151,6 +157,7 @@ enter_root() {
     settings+=("HOME=$inside" "NORVANE_ROOT=$root"
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin)
 
+    # shellcheck disable=SC2154 # the command line, set by dev
     reach "${invocation[0]%/dev}"
     arguments=("$inside/dev")
     for entry in "${invocation[@]:1}"; do

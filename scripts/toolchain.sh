@@ -101,8 +101,8 @@ prepare() {
             "from here; please install (Debian's names): ${lacking[*]}"
         apt_install "${lacking[@]}"
         find_qt
-        lacking=$(missing "$@")
-        [ -z "$lacking" ] || die "Installed, but still not usable: $lacking"
+        read -ra lacking <<<"$(missing "$@")"
+        [ ${#lacking[@]} -eq 0 ] || die "Installed, but still not usable: ${lacking[*]}"
     fi
     # A Qt that only the path leads to is found by CMake, too.
     export CMAKE_PREFIX_PATH="$qt_prefix${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
