@@ -9,6 +9,7 @@ install(TARGETS Norvane EXPORT NorvaneTargets)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Norvane ${PROJECT_BINARY_DIR}/include/Norvane
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
     FILES_MATCHING PATTERN "*.h")
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT NorvaneTargets NAMESPACE Norvane:: DESTINATION ${package_dir})
 configure_package_config_file(
@@ -27,6 +28,7 @@ install(FILES
 # The paths are relative to the file's own place, so that the installed tree can be moved.
 set(pc_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pc_prefix ${pc_dir} ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/norvane.pc.in ${PROJECT_BINARY_DIR}/norvane.pc @ONLY)
