@@ -6,17 +6,17 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-file(GLOB files ${TREE}/* ${TREE}/.*)
-list(FILTER files INCLUDE REGEX "/(dev|CMakeLists\\.txt|\\.clang-[a-z]+|[^/]+\\.(json|md))$")
+file(GLOB files ${TREE}/* ${TREE}/.clang-*)
 foreach(room IN ITEMS
         .ci address benchmarks cmake dock docs examples frame gallery include res ribbon scripts
         tests translations)
     file(GLOB_RECURSE found ${TREE}/${room}/*)
     list(APPEND files ${found})
 endforeach()
-list(FILTER files EXCLUDE REGEX "\\.(png|ttf|pyc)$")
 
+# Samples and test data are no sources, and have whatever line ends they are about.
 set(sources "(/CMakeLists\\.txt|/dev|/run|\\.(cmake|cpp|h|in|py|sh))$")
+list(FILTER files INCLUDE REGEX "${sources}|\\.(css|json|md|qrc|svg)$|/\\.clang-[a-z]+$")
 foreach(file IN LISTS files)
     # Read as bytes, because a file that is read as text loses its carriage returns.
     file(READ ${file} content HEX)
