@@ -9,11 +9,37 @@
 
 namespace Norvane {
 
+namespace {
+
+class StyleChangeEater : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        Q_UNUSED(watched)
+        return event->type() == QEvent::StyleChange;
+    }
+};
+
+} // namespace
+
 DeferredPolish::DeferredPolish(QWidget *page)
     : QObject(page)
     , m_page(page)
 {
     page->installEventFilter(this);
+}
+
+void DeferredPolish::adopt(QWidget *widget, QWidget *parent)
+{
+    StyleChangeEater eater;
+    if (!parent->isVisible()) {
+        widget->installEventFilter(&eater);
+        const QList<QWidget *> children = widget->findChildren<QWidget *>();
+        for (QWidget *child : children)
+            child->installEventFilter(&eater);
+    }
+    widget->setParent(parent);
 }
 
 bool DeferredPolish::eventFilter(QObject *watched, QEvent *event)

@@ -26,6 +26,14 @@ public:
     //! Watches over \a page, which owns it, until \a page is shown.
     explicit DeferredPolish(QWidget *page);
 
+    /*!
+        Makes \a parent the parent of \a widget, a new one of ours that was made without a parent.
+        A frame or tool button asks its style at once when it is made under a style sheet or comes
+        under one; as long as \a parent is not visible nobody needs the answer, which costs as
+        much as polishing and is kept for every widget.
+    */
+    static void adopt(QWidget *widget, QWidget *parent);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "RibbonControls.h"
 
+#include "DeferredPolish.h"
 #include "RibbonButton.h"
 
 #include <QtWidgets/QMenu>
@@ -12,10 +13,11 @@ namespace Norvane::RibbonControls {
 
 RibbonButton *createButton(QAction *action, Qt::ToolButtonStyle style, QWidget *parent)
 {
-    auto *button = new RibbonButton(parent);
+    auto *button = new RibbonButton;
     button->setFocusPolicy(Qt::NoFocus);
     button->setToolButtonStyle(style);
     button->bindAction(action);
+    DeferredPolish::adopt(button, parent);
     return button;
 }
 

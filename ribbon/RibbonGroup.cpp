@@ -3,6 +3,7 @@
 
 #include "RibbonGroup_p.h"
 
+#include "DeferredPolish.h"
 #include "RibbonButton.h"
 #include "RibbonControls.h"
 #include "RibbonSubgroup.h"
@@ -28,10 +29,11 @@ RibbonGroupPrivate::~RibbonGroupPrivate() = default;
 
 QFrame *RibbonGroupPrivate::createSeparator()
 {
-    auto *separator = new QFrame(q_func());
+    auto *separator = new QFrame;
     separator->setObjectName(QStringLiteral("separator"));
     separator->setFrameShape(QFrame::VLine);
     separator->setFixedSize(1, 80);
+    DeferredPolish::adopt(separator, q_func());
     return separator;
 }
 
@@ -96,7 +98,8 @@ QAction *RibbonGroup::addWidget(QWidget *widget)
 RibbonSubgroup *RibbonGroup::addSubgroup()
 {
     Q_D(RibbonGroup);
-    auto *subgroup = new RibbonSubgroup(this);
+    auto *subgroup = new RibbonSubgroup;
+    DeferredPolish::adopt(subgroup, this);
     if (d->contentLayout)
         d->contentLayout->addWidget(subgroup);
     d->subgroups.append(subgroup);

@@ -68,7 +68,8 @@ RibbonGroup *RibbonPage::addGroup(const QString &title)
 {
     Q_D(RibbonPage);
     ensurePolished();
-    auto *group = new RibbonGroup(title, this);
+    auto *group = new RibbonGroup(title);
+    DeferredPolish::adopt(group, this);
     d->layout->addWidget(group);
     d->groups.append(group);
     return group;
