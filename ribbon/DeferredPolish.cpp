@@ -4,6 +4,7 @@
 #include "DeferredPolish.h"
 
 #include <QtCore/QChildEvent>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
 
@@ -79,6 +80,13 @@ void DeferredPolish::finish()
         widget->removeEventFilter(this);
         widget->ensurePolished();
     }
+    // Buttons took their sizes when they were shown: settle the layouts, innermost first, so that
+    // the first frame has everything in its place.
+    for (auto widget = widgets.crbegin(); widget != widgets.crend(); ++widget) {
+        if (QLayout *layout = (*widget)->layout())
+            layout->activate();
+    }
+    m_page->layout()->activate();
     deleteLater();
 }
 
