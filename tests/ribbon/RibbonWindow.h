@@ -56,7 +56,7 @@ public:
         if (!Gui::open(this))
             return false;
         // No tab shall look hovered because a window of an earlier test left the mouse there.
-        Gui::moveMouse(this, {10, 290});
+        Gui::moveMouse(this, rect().bottomLeft() + QPoint(10, -10));
         return true;
     }
 
