@@ -479,10 +479,9 @@ void tst_DeferredPolish::followsFontsAndPalettesSetBeforeTheVisit()
     window.setFont(font);
     window.setPalette(colours);
     for (int i : {0, 1}) {
-        RibbonGroup *group = window.bar->page(i)->group(0);
-        group->setFont(font);
-        group->setPalette(colours);
-        group->findChild<QToolButton *>()->setFont(font);
+        auto *button = window.bar->page(i)->findChild<QToolButton *>();
+        button->setFont(font);
+        button->setPalette(colours);
     }
     window.bar->setCurrentIndex(1);
     settle();
@@ -493,8 +492,9 @@ void tst_DeferredPolish::followsFontsAndPalettesSetBeforeTheVisit()
         QCOMPARE(visited[i]->font(), seen[i]->font());
         QCOMPARE(visited[i]->palette(), seen[i]->palette());
     }
-    QVERIFY(window.bar->page(1)->group(0)->font().bold());
-    QCOMPARE(window.bar->page(1)->group(0)->palette().color(QPalette::Base), QColor(Qt::yellow));
+    const auto *button = window.bar->page(1)->findChild<QToolButton *>();
+    QVERIFY(button->font().bold());
+    QCOMPARE(button->palette().color(QPalette::Base), QColor(Qt::yellow));
 }
 
 void tst_DeferredPolish::followsActionsChangedBeforeTheVisit()
