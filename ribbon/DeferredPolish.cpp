@@ -4,6 +4,7 @@
 #include "DeferredPolish.h"
 
 #include <QtCore/QChildEvent>
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
@@ -51,6 +52,10 @@ bool DeferredPolish::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::PolishRequest:
         return watched != m_page;
+    case QEvent::StyleChange:
+        // Frames and buttons answer it by asking the style; finish() makes up for it.
+        m_styleChanged = m_styleChanged || watched != m_page;
+        return watched != m_page;
     case QEvent::Show:
     case QEvent::Paint:
         if (watched == m_page)
@@ -79,6 +84,10 @@ void DeferredPolish::finish()
     for (QWidget *widget : widgets) {
         widget->removeEventFilter(this);
         widget->ensurePolished();
+        if (m_styleChanged) {
+            QEvent change(QEvent::StyleChange);
+            QCoreApplication::sendEvent(widget, &change);
+        }
     }
     // Buttons took their sizes when they were shown: settle the layouts, innermost first, so that
     // the first frame has everything in its place.
@@ -86,7 +95,8 @@ void DeferredPolish::finish()
         if (QLayout *layout = (*widget)->layout())
             layout->activate();
     }
-    m_page->layout()->activate();
+    if (QLayout *layout = m_page->layout())
+        layout->activate();
     deleteLater();
 }
 

@@ -41,6 +41,7 @@ private:
     void finish();
 
     QWidget *const m_page;
+    bool m_styleChanged = false;
 };
 
 } // namespace Norvane

@@ -3,6 +3,7 @@
 
 #include "RibbonBar_p.h"
 
+#include "QuietReparenting.h"
 #include "RibbonCorner.h"
 #include "RibbonPage.h"
 #include "RibbonStackedWidget.h"
@@ -77,6 +78,7 @@ RibbonBar::RibbonBar(RibbonBarPrivate &dd, QWidget *parent)
     setFixedHeight(column->sizeHint().height());
     // A taller widget in the corner is cut: it must not push the pages out of the bar.
     d->corner->setMaximumHeight(d->tabBar->height());
+    new QuietReparenting(this, d->tabBar);
 }
 
 RibbonBar::~RibbonBar() = default;
