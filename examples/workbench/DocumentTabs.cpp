@@ -13,7 +13,8 @@
 
 namespace Workbench {
 
-DocumentTabs::DocumentTabs(QWidget *parent) : QTabWidget(parent)
+DocumentTabs::DocumentTabs(QWidget *parent)
+    : QTabWidget(parent)
 {
     setDocumentMode(true);
     setTabsClosable(true);

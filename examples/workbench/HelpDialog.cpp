@@ -39,7 +39,8 @@ static QTreeWidget *shortcutList(const QList<QAction *> &commands)
     return list;
 }
 
-HelpDialog::HelpDialog(const QList<QAction *> &commands, QWidget *parent) : QDialog(parent)
+HelpDialog::HelpDialog(const QList<QAction *> &commands, QWidget *parent)
+    : QDialog(parent)
 {
     setWindowTitle(tr("Help"));
 

@@ -32,9 +32,13 @@ static QStringList localFiles(const QMimeData *data)
 }
 
 MainWindow::MainWindow(QWidget *parent)
-    : QMainWindow(parent), m_textOptions(new TextOptions(this)), m_recent(new RecentFiles(this)),
-      m_tabs(new DocumentTabs), m_files(new FileCommands(m_tabs, m_recent, m_textOptions, this)),
-      m_ribbon(new WorkbenchRibbon(m_files, m_recent, m_textOptions)), m_summary(new QLabel)
+    : QMainWindow(parent)
+    , m_textOptions(new TextOptions(this))
+    , m_recent(new RecentFiles(this))
+    , m_tabs(new DocumentTabs)
+    , m_files(new FileCommands(m_tabs, m_recent, m_textOptions, this))
+    , m_ribbon(new WorkbenchRibbon(m_files, m_recent, m_textOptions))
+    , m_summary(new QLabel)
 {
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);

@@ -18,9 +18,7 @@ using namespace Qt::StringLiterals;
 
 static QString sampleFolder()
 {
-    const QString installed = QDir(QCoreApplication::applicationDirPath())
-                                  .filePath(QStringLiteral(NORVANE_WORKBENCH_SAMPLES_INSTALLED));
-    return QDir(installed).exists() ? installed : QStringLiteral(NORVANE_WORKBENCH_SAMPLES_SOURCE);
+    return QStringLiteral(NORVANE_WORKBENCH_SAMPLES);
 }
 
 static int runTour(const QString &pictureFolder, const QStringList &paths)

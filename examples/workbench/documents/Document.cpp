@@ -18,7 +18,9 @@ static constexpr std::array<qreal, 16> zoomSteps = {0.1, 0.25, 0.33, 0.5, 0.67, 
                                                     1.1, 1.25, 1.5,  2,   3,    4,   8,   16};
 
 Document::Document(QWidget *parent)
-    : QWidget(parent), m_layout(new QVBoxLayout(this)), m_noticeBar(new NoticeBar)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+    , m_noticeBar(new NoticeBar)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);

@@ -12,7 +12,10 @@
 
 namespace Workbench {
 
-DocumentLoader::DocumentLoader(TextOptions *textOptions) : m_textOptions(textOptions) { }
+DocumentLoader::DocumentLoader(TextOptions *textOptions)
+    : m_textOptions(textOptions)
+{
+}
 
 std::unique_ptr<Document> DocumentLoader::load(const QString &path, QString *error) const
 {

@@ -9,7 +9,9 @@
 
 namespace Workbench {
 
-NoticeBar::NoticeBar(QWidget *parent) : QFrame(parent), m_label(new QLabel)
+NoticeBar::NoticeBar(QWidget *parent)
+    : QFrame(parent)
+    , m_label(new QLabel)
 {
     setObjectName(QStringLiteral("noticeBar"));
     setStyleSheet(

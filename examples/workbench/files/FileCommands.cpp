@@ -19,7 +19,11 @@ namespace Workbench {
 
 FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, TextOptions *textOptions,
                            QWidget *window)
-    : QObject(window), m_tabs(tabs), m_recent(recent), m_loader(textOptions), m_window(window)
+    : QObject(window)
+    , m_tabs(tabs)
+    , m_recent(recent)
+    , m_loader(textOptions)
+    , m_window(window)
 {
     connect(m_recent, &RecentFiles::picked, this,
             [this](const QString &path) { openPaths({path}); });

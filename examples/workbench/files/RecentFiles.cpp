@@ -17,7 +17,10 @@ static QString key()
     return QStringLiteral("recentFiles");
 }
 
-RecentFiles::RecentFiles(QObject *parent) : QObject(parent) { }
+RecentFiles::RecentFiles(QObject *parent)
+    : QObject(parent)
+{
+}
 
 QStringList RecentFiles::paths() const
 {

@@ -47,7 +47,9 @@ static QImage onWhite(const QImage &image)
 }
 
 PictureDocument::PictureDocument(QWidget *parent)
-    : Document(parent), m_view(new PictureView), m_history(new QUndoStack(this))
+    : Document(parent)
+    , m_view(new PictureView)
+    , m_history(new QUndoStack(this))
 {
     setView(m_view);
     connect(m_view, &PictureView::selectionChanged, this, &Document::changed);

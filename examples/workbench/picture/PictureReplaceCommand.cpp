@@ -9,8 +9,11 @@ namespace Workbench {
 
 PictureReplaceCommand::PictureReplaceCommand(PictureView *view, const QImage &image,
                                              const QRect &selection)
-    : m_view(view), m_before(view->image()), m_selectionBefore(view->selection()), m_after(image),
-      m_selectionAfter(selection)
+    : m_view(view)
+    , m_before(view->image())
+    , m_selectionBefore(view->selection())
+    , m_after(image)
+    , m_selectionAfter(selection)
 {
 }
 

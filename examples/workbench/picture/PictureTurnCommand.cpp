@@ -10,7 +10,10 @@
 namespace Workbench {
 
 PictureTurnCommand::PictureTurnCommand(PictureView *view, Turn turn)
-    : m_view(view), m_turn(turn) { }
+    : m_view(view)
+    , m_turn(turn)
+{
+}
 
 void PictureTurnCommand::undo()
 {

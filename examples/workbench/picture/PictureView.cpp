@@ -25,7 +25,8 @@ static QBrush checkerboard()
     return QBrush(tile);
 }
 
-PictureView::PictureView(QWidget *parent) : QAbstractScrollArea(parent)
+PictureView::PictureView(QWidget *parent)
+    : QAbstractScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);

@@ -14,7 +14,10 @@
 
 namespace Workbench {
 
-DocumentPage::DocumentPage(QWidget *parent) : Norvane::RibbonPage(parent) { }
+DocumentPage::DocumentPage(QWidget *parent)
+    : Norvane::RibbonPage(parent)
+{
+}
 
 void DocumentPage::setDocument(Document *document)
 {

@@ -9,7 +9,8 @@
 
 namespace Workbench {
 
-FindField::FindField(QWidget *parent) : QLineEdit(parent)
+FindField::FindField(QWidget *parent)
+    : QLineEdit(parent)
 {
     setPlaceholderText(tr("Find"));
     setClearButtonEnabled(true);

@@ -24,7 +24,9 @@ using namespace Qt::StringLiterals;
 static constexpr int columnHeight = 80;
 
 HomePage::HomePage(FileCommands *files, RecentFiles *recent, QWidget *parent)
-    : DocumentPage(parent), m_files(files), m_findField(new FindField)
+    : DocumentPage(parent)
+    , m_files(files)
+    , m_findField(new FindField)
 {
     addFileGroup(recent);
     addClipboardGroup();
@@ -69,7 +71,7 @@ void HomePage::addFileGroup(RecentFiles *recent)
     QMenu *closeMenu = addMenuCommand({tr("Close"),
                                        "close"_L1,
                                        tr("Close the document; right click for more"),
-                                       {QKeySequence::Close}});
+                                       {QKeySequence(u"Ctrl+W"_s), QKeySequence(u"Ctrl+F4"_s)}});
     m_close = closeMenu->menuAction();
     connect(m_close, &QAction::triggered, this, [this] { m_files->close(document()); });
     m_closeOthers = addCommand(

@@ -14,7 +14,8 @@ namespace Workbench {
 
 using namespace Qt::StringLiterals;
 
-PicturePage::PicturePage(QWidget *parent) : DocumentPage(parent)
+PicturePage::PicturePage(QWidget *parent)
+    : DocumentPage(parent)
 {
     using Turn = PictureTurnCommand::Turn;
 

@@ -21,7 +21,9 @@ namespace Workbench {
 
 using namespace Qt::StringLiterals;
 
-TextPage::TextPage(TextOptions *options, QWidget *parent) : DocumentPage(parent), m_options(options)
+TextPage::TextPage(TextOptions *options, QWidget *parent)
+    : DocumentPage(parent)
+    , m_options(options)
 {
     addFontGroup();
     addFileFormatGroup();

@@ -14,7 +14,8 @@ namespace Workbench {
 
 using namespace Qt::StringLiterals;
 
-ViewPage::ViewPage(TextOptions *textOptions, QWidget *parent) : DocumentPage(parent)
+ViewPage::ViewPage(TextOptions *textOptions, QWidget *parent)
+    : DocumentPage(parent)
 {
     Norvane::RibbonGroup *zoom = addGroup(tr("Zoom"));
     m_zoomIn = addCommand({tr("Zoom\nIn"),

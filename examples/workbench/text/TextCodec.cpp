@@ -49,6 +49,16 @@ static TextCodec::Encoding markedEncoding(const QByteArray &bytes)
     return TextCodec::Encoding::Utf8;
 }
 
+static QString decodeContent(QByteArrayView bytes, TextCodec::Encoding encoding)
+{
+    // Half a character at the end would wait for its other half and be lost otherwise. A byte
+    // order mark that is not the file's is content.
+    QStringDecoder decoder(converter(encoding),
+                           QStringConverter::Flag::Stateless
+                               | QStringConverter::Flag::ConvertInitialBom);
+    return decoder(bytes);
+}
+
 QList<TextCodec::Encoding> TextCodec::encodings()
 {
     return {Encoding::Utf8, Encoding::Utf8Bom, Encoding::Utf16Le, Encoding::Utf16Be,
@@ -76,9 +86,8 @@ TextCodec::Decoded TextCodec::decode(const QByteArray &bytes)
 {
     Decoded decoded;
     decoded.encoding = markedEncoding(bytes);
-    // A second mark is content: only the first one goes.
-    QStringDecoder decoder(converter(decoded.encoding), QStringConverter::Flag::ConvertInitialBom);
-    decoded.text = decoder(QByteArrayView(bytes).mid(byteOrderMark(decoded.encoding).size()));
+    decoded.text = decodeContent(QByteArrayView(bytes).mid(byteOrderMark(decoded.encoding).size()),
+                                 decoded.encoding);
     if (encode(decoded.text, decoded.encoding) == bytes)
         return decoded;
     if (decoded.encoding == Encoding::Utf8) {
@@ -93,9 +102,9 @@ TextCodec::Decoded TextCodec::decode(const QByteArray &bytes)
 
 std::optional<QByteArray> TextCodec::encode(const QString &text, Encoding encoding)
 {
-    QStringEncoder encoder(converter(encoding));
-    const QByteArray bytes = encoder(text);
-    if (encoder.hasError())
+    const QByteArray bytes =
+        QStringEncoder(converter(encoding), QStringConverter::Flag::Stateless)(text);
+    if (decodeContent(bytes, encoding) != text)
         return std::nullopt;
     return byteOrderMark(encoding) + bytes;
 }

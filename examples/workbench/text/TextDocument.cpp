@@ -17,7 +17,8 @@ namespace Workbench {
 static constexpr qint64 largestText = 64 * 1024 * 1024;
 
 TextDocument::TextDocument(TextOptions *options, QWidget *parent)
-    : Document(parent), m_editor(new TextEditor(options))
+    : Document(parent)
+    , m_editor(new TextEditor(options))
 {
     setView(m_editor);
     connect(m_editor, &TextEditor::zoomWanted, this,

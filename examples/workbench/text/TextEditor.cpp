@@ -14,7 +14,8 @@
 namespace Workbench {
 
 TextEditor::TextEditor(TextOptions *options, QWidget *parent)
-    : QPlainTextEdit(parent), m_options(options)
+    : QPlainTextEdit(parent)
+    , m_options(options)
 {
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(8);

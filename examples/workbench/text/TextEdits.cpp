@@ -89,8 +89,7 @@ void TextEdits::sortLines(QTextCursor *cursor, Qt::SortOrder order)
         if (block == last)
             break;
     }
-    QCollator collator;
-    collator.setNumericMode(true);
+    const QCollator collator;
     std::stable_sort(lines.begin(), lines.end(), [&](const QString &a, const QString &b) {
         return order == Qt::AscendingOrder ? collator.compare(a, b) < 0
                                            : collator.compare(b, a) < 0;

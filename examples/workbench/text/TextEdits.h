@@ -20,7 +20,8 @@ public:
     static void indent(QTextCursor *cursor);
     //! Takes up to four spaces or one tab from the start of the lines.
     static void outdent(QTextCursor *cursor);
-    //! Sorts the selected lines, or all lines if nothing is selected, as people would.
+    //! Sorts the selected lines, or all lines if nothing is selected, as the user's
+    //! language has it.
     static void sortLines(QTextCursor *cursor, Qt::SortOrder order);
     //! Changes the selection, or the word at the cursor if nothing is selected.
     static void setCase(QTextCursor *cursor, LetterCase letterCase);

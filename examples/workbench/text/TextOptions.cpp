@@ -9,7 +9,8 @@
 namespace Workbench {
 
 TextOptions::TextOptions(QObject *parent)
-    : QObject(parent), m_font(QFontDatabase::systemFont(QFontDatabase::FixedFont))
+    : QObject(parent)
+    , m_font(QFontDatabase::systemFont(QFontDatabase::FixedFont))
 {
     if (m_font.pointSize() <= 0)
         m_font.setPointSize(QFontInfo(m_font).pointSize());

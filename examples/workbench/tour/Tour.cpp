@@ -44,7 +44,10 @@ static QByteArray content(const QString &path)
 
 Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
            const QString &pictureFolder)
-    : m_window(window), m_player(window, pictureFolder), m_samples(samples), m_paths(paths)
+    : m_window(window)
+    , m_player(window, pictureFolder)
+    , m_samples(samples)
+    , m_paths(paths)
 {
     connect(&m_player, &TourPlayer::finished, this, &Tour::finished);
     showPaths();

@@ -12,7 +12,9 @@ namespace Workbench {
 
 static constexpr int longestWait = 15000;
 
-TourPlayer::TourPlayer(QWidget *window, const QString &folder) : m_window(window), m_folder(folder)
+TourPlayer::TourPlayer(QWidget *window, const QString &folder)
+    : m_window(window)
+    , m_folder(folder)
 {
     m_timer.setInterval(10);
     connect(&m_timer, &QTimer::timeout, this, &TourPlayer::tick);

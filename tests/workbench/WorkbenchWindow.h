@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "DocumentTabs.h"
+#include "Files.h"
+#include "Gui.h"
+#include "MainWindow.h"
+#include "TestCase.h"
+#include "picture/PictureDocument.h"
+#include "picture/PictureView.h"
+#include "ribbon/WorkbenchRibbon.h"
+#include "text/TextDocument.h"
+#include "text/TextEditor.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
+
+#include <functional>
+
+//! The program's window, and the parts of it that a user sees and reaches.
+class WorkbenchWindow : public Workbench::MainWindow
+{
+public:
+    explicit WorkbenchWindow(const QStringList &paths = {})
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("Norvane"));
+        QCoreApplication::setApplicationName(QStringLiteral("workbench-test"));
+        show();
+        activateWindow();
+        opened = QTest::qWaitForWindowActive(this);
+        open(paths);
+    }
+
+    Workbench::DocumentTabs *tabs() const { return findChild<Workbench::DocumentTabs *>(); }
+    Workbench::WorkbenchRibbon *ribbon() const { return findChild<Workbench::WorkbenchRibbon *>(); }
+    Workbench::Document *document() const { return tabs()->currentDocument(); }
+    Workbench::TextDocument *text() const
+    {
+        return qobject_cast<Workbench::TextDocument *>(document());
+    }
+    Workbench::PictureDocument *picture() const
+    {
+        return qobject_cast<Workbench::PictureDocument *>(document());
+    }
+    Workbench::TextEditor *editor() const
+    {
+        return document()->findChild<Workbench::TextEditor *>();
+    }
+    Workbench::PictureView *view() const
+    {
+        return document()->findChild<Workbench::PictureView *>();
+    }
+
+    //! The titles of the ribbon's visible tabs.
+    QStringList pages() const
+    {
+        QStringList titles;
+        for (const QAbstractButton *tab : ribbonTabs()) {
+            if (tab->isVisible())
+                titles << tab->text();
+        }
+        return titles;
+    }
+    QString currentPage() const
+    {
+        for (const QAbstractButton *tab : ribbonTabs()) {
+            if (tab->isChecked())
+                return tab->text();
+        }
+        return QString();
+    }
+    void clickPage(const QString &title) const
+    {
+        for (const QAbstractButton *tab : ribbonTabs()) {
+            if (tab->text() == title)
+                Gui::click(tab);
+        }
+    }
+    void clickTab(const QString &file) const
+    {
+        for (int i = 0; i < tabs()->count(); ++i) {
+            if (tabs()->document(i)->title() == file)
+                Gui::click(tabs()->tabBar(), tabs()->tabBar()->tabRect(i).center());
+        }
+    }
+
+    //! The visible button of the command; null if its page is not in front.
+    QToolButton *button(const QString &command) const
+    {
+        for (QToolButton *button : ribbon()->findChildren<QToolButton *>()) {
+            if (button->isVisible() && button->defaultAction()
+                && button->defaultAction()->text() == command)
+                return button;
+        }
+        return nullptr;
+    }
+    //! The command, wherever its button is.
+    QAction *command(const QString &text) const
+    {
+        for (QAction *action : ribbon()->commands()) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+    //! Clicks on the part of the button that does not open a menu.
+    void clickButton(const QString &command) const
+    {
+        const QToolButton *clicked = button(command);
+        if (!clicked) {
+            QTest::qFail(qPrintable(command + QStringLiteral(" has no visible button")), __FILE__,
+                         __LINE__);
+            return;
+        }
+        Gui::click(clicked, QPoint(clicked->width() / 2, 11));
+    }
+    //! Opens the button's menu with the mouse and picks an entry with it.
+    void pick(const QString &command, const QString &entry) const
+    {
+        const QToolButton *opener = button(command);
+        openMenu([opener] { Gui::click(opener, QPoint(opener->width() / 2, 60)); },
+                 [&entry](QMenu *menu) { pickEntry(menu, entry); });
+    }
+
+    //! Does something that opens a menu, and something else while the menu is open.
+    static void openMenu(const std::function<void()> &open,
+                         const std::function<void(QMenu *)> &then)
+    {
+        QTimer timer;
+        bool done = false;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            if (!menu || !menu->isVisible())
+                return;
+            timer.stop();
+            then(menu);
+            done = true;
+        });
+        timer.start(5);
+        open();
+        QTRY_VERIFY(done);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+    static void pickEntry(QMenu *menu, const QString &entry)
+    {
+        for (QAction *action : menu->actions()) {
+            if (action->text() == entry) {
+                Gui::moveMouse(menu, menu->actionGeometry(action).center());
+                Gui::click(menu, menu->actionGeometry(action).center());
+                return;
+            }
+        }
+        menu->close();
+        QTest::qFail(qPrintable(entry + QStringLiteral(" is not in the menu")), __FILE__, __LINE__);
+    }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(windowHandle(), key, modifiers);
+    }
+
+    //! To the widget that has the focus.
+    void type(const QString &text) const
+    {
+        for (QChar c : text)
+            QTest::keyClick(windowHandle(), c.toLatin1());
+    }
+
+    bool opened = false;
+
+private:
+    QList<QAbstractButton *> ribbonTabs() const
+    {
+        QList<QAbstractButton *> tabs;
+        for (auto *button : ribbon()->findChildren<QAbstractButton *>()) {
+            if (button->inherits("Norvane::RibbonTab"))
+                tabs << button;
+        }
+        return tabs;
+    }
+};
+
+//! Waits for the next modal dialog that is meant and deals with it once.
+class ModalAnswer : public QObject
+{
+public:
+    explicit ModalAnswer(
+        const std::function<void(QWidget *)> &answer,
+        const std::function<bool(QWidget *)> &isMeant = [](QWidget *) { return true; })
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, answer, isMeant] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (!dialog || !dialog->isVisible() || !dialog->windowHandle()->isExposed()
+                || !isMeant(dialog))
+                return;
+            m_timer.stop();
+            answered = true;
+            answer(dialog);
+        });
+        m_timer.start(5);
+    }
+
+    bool answered = false;
+
+private:
+    QTimer m_timer;
+};
+
+//! Clicks on a button of the next message box that has it, and keeps what the box said.
+class BoxAnswer
+{
+public:
+    explicit BoxAnswer(QMessageBox::StandardButton button)
+        : m_answer(
+              [this, button](QWidget *dialog) {
+                  auto *box = static_cast<QMessageBox *>(dialog);
+                  text = box->text();
+                  information = box->informativeText();
+                  Gui::click(box->button(button));
+              },
+              [button](QWidget *dialog) {
+                  auto *box = qobject_cast<QMessageBox *>(dialog);
+                  return box && box->button(button);
+              })
+    {
+    }
+
+    bool answered() const { return m_answer.answered; }
+
+    QString text;
+    QString information;
+
+private:
+    ModalAnswer m_answer;
+};
