@@ -19,7 +19,7 @@ DocumentTabs::DocumentTabs(QWidget *parent)
     setDocumentMode(true);
     setTabsClosable(true);
     setMovable(true);
-    setElideMode(Qt::ElideMiddle);
+    setElideMode(Qt::ElideNone);
     tabBar()->setStyleSheet(QStringLiteral(
         "QTabBar::close-button { image: url(:/workbench/icons/tab-close.svg); }"
         "QTabBar::close-button:hover { image: url(:/workbench/icons/tab-close-hover.svg); }"));

@@ -19,6 +19,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTabBar>
@@ -225,6 +226,9 @@ public:
                   auto *box = static_cast<QMessageBox *>(dialog);
                   text = box->text();
                   information = box->informativeText();
+                  for (const QLabel *label : box->findChildren<QLabel *>())
+                      plain = plain
+                          && (label->text().isEmpty() || label->textFormat() == Qt::PlainText);
                   Gui::click(box->button(button));
               },
               [button](QWidget *dialog) {
@@ -238,6 +242,8 @@ public:
 
     QString text;
     QString information;
+    //! No name of a file is taken for markup.
+    bool plain = true;
 
 private:
     ModalAnswer m_answer;

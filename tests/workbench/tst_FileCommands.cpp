@@ -138,6 +138,7 @@ void tst_FileCommands::saysWhatCannotBeOpened()
     QVERIFY2(box.information.contains(QDir::toNativeSeparators(files.path(name))),
              qPrintable(box.information));
     QVERIFY(box.information.size() > files.path(name).size() + 10);
+    QVERIFY(box.plain);
     QCOMPARE(window.tabs()->count(), 0);
 }
 
@@ -322,6 +323,7 @@ void tst_FileCommands::asksBeforeItClosesWhatIsNotSaved()
     Gui::click(window.tabs()->tabBar()->tabButton(0, QTabBar::RightSide));
     QVERIFY(box.answered());
     QVERIFY(box.text.contains(QStringLiteral("a.txt")));
+    QVERIFY(box.plain);
     QCOMPARE(window.tabs()->count(), closes ? 0 : 1);
     QCOMPARE(files.read(QStringLiteral("a.txt")), content);
 }

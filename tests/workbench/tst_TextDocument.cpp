@@ -13,6 +13,10 @@
 #include <QtGui/QTextBlock>
 #include <QtTest/QSignalSpy>
 
+#ifdef Q_OS_UNIX
+#    include <sys/stat.h>
+#endif
+
 using namespace Workbench;
 
 Q_DECLARE_METATYPE(Workbench::TextCodec::Encoding)
@@ -277,6 +281,14 @@ void tst_TextDocument::refusesWhatIsNoFile()
     QVERIFY(!document.load(files.folder(), &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(!document.isBinary());
+#ifdef Q_OS_UNIX
+    // Nobody writes to the pipe: opening it would wait for ever.
+    const QString pipe = files.path(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    error.clear();
+    QVERIFY(!document.load(pipe, &error));
+    QVERIFY(!error.isEmpty());
+#endif
 }
 
 void tst_TextDocument::isModifiedByEncodingAlone()

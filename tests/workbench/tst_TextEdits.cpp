@@ -80,6 +80,7 @@ void tst_TextEdits::edits_data()
     row("sorts down", descending, "a\nc\nb[]", "c\nb\na", "c\nb\na");
     row("keeps the ends where they are", ascending, "c\r\na\nb\r[]", "a\r\nb\nc\r", "a\nb\nc");
     row("keeps equal lines", ascending, "b\na\nb\na[]", "a\na\nb\nb", "a\na\nb\nb");
+    row("leaves what is sorted", ascending, "a\nb\nc[]", "a\nb\nc", "a\nb\nc");
     row("sorts nothing", ascending, "[]", "", "");
 
     const Edit upper = [](QTextCursor *cursor) {

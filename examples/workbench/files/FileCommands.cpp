@@ -179,8 +179,8 @@ bool FileCommands::mayClose(Document *document)
     QMessageBox box(QMessageBox::Question, tr("Close"),
                     tr("Save the changes to “%1”?").arg(document->title()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
-    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("They are lost otherwise."));
+    box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
     case QMessageBox::Save:
@@ -206,8 +206,8 @@ bool FileCommands::close(const QList<Document *> &documents)
 void FileCommands::warn(const QString &title, const QString &text, const QString &reason)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, m_window);
-    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(reason);
+    box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 

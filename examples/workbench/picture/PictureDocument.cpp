@@ -216,7 +216,6 @@ void PictureDocument::setZoom(qreal zoom)
 bool PictureDocument::read(QFile &file, QString *error)
 {
     QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QImage image = reader.read();
     if (image.isNull()) {

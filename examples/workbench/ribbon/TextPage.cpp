@@ -82,17 +82,12 @@ void TextPage::addFileFormatGroup()
     m_lineEndMenu =
         addMenuCommand({tr("Line Ends"), "line-ends"_L1, tr("How every line of the file ends")});
     m_lineEnds = new QActionGroup(this);
-    // In a file with mixed ends none is checked.
-    m_lineEnds->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (LineEnds::LineEnd end : LineEnds::offered()) {
         QAction *action = m_lineEndMenu->addAction(LineEnds::name(end));
         action->setCheckable(true);
         action->setData(int(end));
         m_lineEnds->addAction(action);
-        connect(action, &QAction::triggered, this, [this, end] {
-            text()->setLineEnd(end);
-            refresh();
-        });
+        connect(action, &QAction::triggered, this, [this, end] { text()->setLineEnd(end); });
     }
     group->addMenu(m_lineEndMenu, QToolButton::InstantPopup);
 }

@@ -13,6 +13,7 @@
 #include "tour/Input.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
@@ -50,6 +51,8 @@ Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
     , m_paths(paths)
 {
     connect(&m_player, &TourPlayer::finished, this, &Tour::finished);
+    // The samples are shown in any case.
+    m_paths.removeIf([&](const QString &path) { return QFileInfo(path) == QFileInfo(m_samples); });
     showPaths();
     openSamples();
     editText();
@@ -78,9 +81,21 @@ void Tour::showPaths()
     if (m_paths.isEmpty())
         return;
     m_player.add(
-        u"opening the files that were named"_s, [this] { m_window->open(m_paths); },
-        [this] { return document() != nullptr; });
+        u"opening the files that were named"_s,
+        [this] {
+            // It may have to say that one cannot be opened, and wait until that was read.
+            QMetaObject::invokeMethod(
+                m_window, [this] { m_window->open(m_paths); }, Qt::QueuedConnection);
+        },
+        [this] { return document() || QApplication::activeModalWidget(); });
     m_player.addPicture(u"files"_s);
+    m_player.add(
+        u"reading what could not be opened"_s,
+        [] {
+            if (QWidget *box = QApplication::activeModalWidget())
+                Input::press(box, Qt::Key_Escape);
+        },
+        [] { return !QApplication::activeModalWidget(); });
     auto *tabs = m_window->findChild<DocumentTabs *>();
     m_player.add(
         u"closing them"_s,
