@@ -10,7 +10,10 @@
 #include <algorithm>
 #include <numeric>
 
-Counter::Counter(const QString &baseStyle) : QProxyStyle(baseStyle) { }
+Counter::Counter(const QString &baseStyle)
+    : QProxyStyle(baseStyle)
+{
+}
 
 void Counter::reset()
 {

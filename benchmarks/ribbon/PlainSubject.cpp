@@ -69,7 +69,8 @@ QWidget *createGroup(const GroupActions &actions, QWidget *parent)
 
 } // namespace
 
-PlainSubject::PlainSubject() : m_bar(new QTabWidget)
+PlainSubject::PlainSubject()
+    : m_bar(new QTabWidget)
 {
     m_bar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -43,7 +43,10 @@ double heapBytes()
 
 } // namespace
 
-Recorder::Recorder(Counter *counter) : m_counter(counter) { }
+Recorder::Recorder(Counter *counter)
+    : m_counter(counter)
+{
+}
 
 void Recorder::measure(const QString &phase, int repetitions, const std::function<void(int)> &run)
 {

@@ -10,7 +10,10 @@
 
 using namespace Norvane;
 
-RibbonSubject::RibbonSubject() : m_bar(new RibbonBar(nullptr)) { }
+RibbonSubject::RibbonSubject()
+    : m_bar(new RibbonBar(nullptr))
+{
+}
 
 QWidget *RibbonSubject::bar() const
 {

@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int temporaryPages = 4;
+constexpr int permanentPages = 6;
 constexpr int widest = 1600;
 constexpr int narrowest = 600;
 
@@ -103,16 +103,21 @@ QToolButton *firstButton(const Subject &subject, int page)
     return subject.page(page)->findChild<QToolButton *>();
 }
 
-void run(bool ribbon, bool filledFirst, const QList<PageActions> &pages, bool quick,
-         Recorder *recorder, const QString &picture)
+struct Options
 {
-    const int pageCount = int(pages.size());
-    const int permanent = pageCount - temporaryPages;
+    bool ribbon = false;
+    bool filledFirst = false;
+    bool quick = false;
+    QString picture;
+};
+
+void run(const Options &options, const QList<PageActions> &pages, Recorder *recorder)
+{
     std::unique_ptr<Subject> subject;
     QWidget window;
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
-    // Neither the tabs of fifty pages nor a wide page may keep the window from getting narrow.
+    // A wide page must not keep the window from getting narrow.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     PaintWitness witness;
     const auto place = [&] {
@@ -122,37 +127,41 @@ void run(bool ribbon, bool filledFirst, const QList<PageActions> &pages, bool qu
 
     recorder->memory(QStringLiteral("before fill"));
     recorder->measure(QStringLiteral("fill"), 1, [&](int) {
-        if (ribbon)
+        if (options.ribbon)
             subject = std::make_unique<RibbonSubject>();
         else
             subject = std::make_unique<PlainSubject>();
-        if (!filledFirst)
+        if (!options.filledFirst)
             place();
-        subject->fill(pages, temporaryPages);
+        subject->fill(pages, int(pages.size()) - permanentPages);
     });
     recorder->memory(QStringLiteral("after fill"));
 
     witness.watch(firstButton(*subject, 0));
     window.resize(widest, 400);
     recorder->measure(QStringLiteral("first paint"), 1, [&](int) {
-        if (filledFirst)
+        if (options.filledFirst)
             place();
         window.show();
         witness.wait();
     });
     recorder->memory(QStringLiteral("after first paint"));
-    if (!picture.isEmpty())
-        window.grab().save(picture);
+    if (!options.picture.isEmpty()) {
+        window.grab().save(options.picture);
+        return;
+    }
 
     const auto visit = [&](int page) {
         witness.watch(firstButton(*subject, page));
         subject->setCurrentPage(page);
         witness.wait();
     };
-    recorder->measure(QStringLiteral("first visit"), permanent - 1, [&](int i) { visit(i + 1); });
+    recorder->measure(QStringLiteral("first visit"), permanentPages - 1,
+                      [&](int i) { visit(i + 1); });
     recorder->memory(QStringLiteral("after visits"));
-    recorder->measure(QStringLiteral("page switch"), quick ? permanent : 5 * permanent,
-                      [&](int i) { visit(i % permanent); });
+    recorder->measure(QStringLiteral("page switch"),
+                      options.quick ? permanentPages : 40 * permanentPages,
+                      [&](int i) { visit(i % permanentPages); });
 
     const int step = 10;
     visit(0);
@@ -165,13 +174,13 @@ void run(bool ribbon, bool filledFirst, const QList<PageActions> &pages, bool qu
     QCoreApplication::processEvents();
 
     const auto changeSection = [&](int section) {
-        const int first = permanent + 2 * section;
+        const int first = permanentPages + 2 * section;
         witness.watch(firstButton(*subject, first));
         subject->changeSection(first, first + 1);
         witness.wait();
     };
     recorder->measure(QStringLiteral("first section change"), 2, changeSection);
-    recorder->measure(QStringLiteral("section change"), quick ? 4 : 40,
+    recorder->measure(QStringLiteral("section change"), options.quick ? 4 : 40,
                       [&](int i) { changeSection(i % 2); });
 
     visit(0);
@@ -185,7 +194,7 @@ void run(bool ribbon, bool filledFirst, const QList<PageActions> &pages, bool qu
         }
         witness.wait();
     };
-    recorder->measure(QStringLiteral("disable and enable all"), quick ? 1 : 5, [&](int) {
+    recorder->measure(QStringLiteral("disable and enable all"), options.quick ? 1 : 5, [&](int) {
         setEnabled(false);
         setEnabled(true);
     });
@@ -203,32 +212,39 @@ int main(int argc, char **argv)
     font.setPixelSize(12);
     QApplication::setFont(font);
 
-    const QCommandLineOption ribbonOption(QStringLiteral("ribbon"),
-                                          QStringLiteral("Measure the ribbon, else plain Qt."));
-    const QCommandLineOption filledFirstOption(
+    const QCommandLineOption ribbon(QStringLiteral("ribbon"),
+                                    QStringLiteral("Measure the ribbon, else plain Qt."));
+    const QCommandLineOption filledFirst(
         QStringLiteral("filled-first"), QStringLiteral("Fill the bar before it is in its window."));
-    const QCommandLineOption countOption(
-        QStringLiteral("count"), QStringLiteral("Count calls and events instead of the time."));
-    const QCommandLineOption quickOption(QStringLiteral("quick"),
-                                         QStringLiteral("Repeat each phase a few times only."));
-    const QCommandLineOption pictureOption(
-        QStringLiteral("picture"), QStringLiteral("Save the first frame."), QStringLiteral("file"));
+    const QCommandLineOption count(QStringLiteral("count"),
+                                   QStringLiteral("Count calls and events instead of the time."));
+    const QCommandLineOption quick(QStringLiteral("quick"),
+                                   QStringLiteral("Repeat each phase a few times only."));
+    const QCommandLineOption picture(QStringLiteral("picture"),
+                                     QStringLiteral("Save the first frame and end."),
+                                     QStringLiteral("file"));
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("size"),
                                  QStringLiteral("Pages x groups x actions, e.g. 10x8x6."));
-    parser.addOptions({ribbonOption, filledFirstOption, countOption, quickOption, pictureOption});
+    parser.addOptions({ribbon, filledFirst, count, quick, picture});
     parser.process(app);
 
     const QStringList size = parser.positionalArguments().value(0).split(u'x');
     const int pages = size.value(0).toInt();
     const int groups = size.value(1).toInt();
     const int actions = size.value(2).toInt();
-    if (pages < temporaryPages + 2 || groups < 1 || actions < 1)
+    Options options;
+    options.ribbon = parser.isSet(ribbon);
+    options.filledFirst = parser.isSet(filledFirst);
+    options.quick = parser.isSet(quick);
+    options.picture = parser.value(picture);
+    // Two sections need four more pages.
+    if (pages < permanentPages + 4 || groups < 1 || actions < 1)
         parser.showHelp(1);
 
     Counter *counter = nullptr;
-    if (parser.isSet(countOption)) {
+    if (parser.isSet(count)) {
         counter = new Counter(QStringLiteral("Fusion"));
         app.installEventFilter(counter);
         QApplication::setStyle(counter);
@@ -238,9 +254,7 @@ int main(int argc, char **argv)
 
     QObject owner;
     Recorder recorder(counter);
-    run(parser.isSet(ribbonOption), parser.isSet(filledFirstOption),
-        createActions(pages, groups, actions, &owner), parser.isSet(quickOption), &recorder,
-        parser.value(pictureOption));
+    run(options, createActions(pages, groups, actions, &owner), &recorder);
     std::puts(QJsonDocument(recorder.result()).toJson(QJsonDocument::Compact).constData());
     return 0;
 }
