@@ -84,8 +84,18 @@ QString RibbonButtonPrivate::text() const
 
 QSize RibbonButtonPrivate::textSize() const
 {
-    const QFontMetrics metrics = q_func()->fontMetrics();
     const QString text = this->text();
+    const QFont &font = q_func()->font();
+    if (!measured || measured->text != text || measured->font != font
+        || measured->large != isLarge()) {
+        measured.reset(new MeasuredText{text, font, isLarge(), measureText(text)});
+    }
+    return measured->size;
+}
+
+QSize RibbonButtonPrivate::measureText(const QString &text) const
+{
+    const QFontMetrics metrics = q_func()->fontMetrics();
     if (!isLarge() || !text.contains(u'\n'))
         return metrics.size(Qt::TextSingleLine, text);
     QSize size = metrics.size(Qt::TextWordWrap, text);
@@ -267,9 +277,11 @@ void RibbonButton::bindAction(QAction *action)
         });
         menu->installEventFilter(this);
     }
+    setDefaultAction(action);
+    // After the tool button's own connections: the list of a later signal would have to grow for
+    // theirs, and Qt keeps the outgrown one.
     connect(action, &QAction::visibleChanged, this,
             [this, action] { setVisible(action->isVisible()); });
-    setDefaultAction(action);
     if (!action->isVisible())
         hide();
 }

@@ -23,6 +23,7 @@ public:
     QMenu *menu() const;
     QString text() const;
     QSize textSize() const;
+    QSize measureText(const QString &text) const;
     QSize measure();
     void setArrowHovered(bool on);
 
@@ -63,6 +64,16 @@ public:
     QBrush pressedBrush;
     QBrush checkedBrush;
     RibbonButton *q_ptr = nullptr;
+
+    // Measuring a text takes as long as painting it. Only buttons that were seen have one.
+    struct MeasuredText
+    {
+        QString text;
+        QFont font;
+        bool large;
+        QSize size;
+    };
+    mutable std::unique_ptr<MeasuredText> measured;
 };
 
 } // namespace Norvane
