@@ -3,8 +3,13 @@
 
 #include "DeferredPolish.h"
 
-#include <QtCore/QChildEvent>
+#include "RibbonTab.h"
+#include "StyleChangeEater.h"
+
 #include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QHash>
+#include <QtCore/QPointer>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
@@ -13,15 +18,62 @@ namespace Norvane {
 
 namespace {
 
-class StyleChangeEater : public QObject
+// A filter on every widget would take a tenth of its memory.
+// Goes when the requests that were posted before it was last asked to stay are delivered.
+class PolishRequestEater : public QObject
 {
 public:
+    static void stay()
+    {
+        static QPointer<PolishRequestEater> eater;
+        if (!eater)
+            eater = new PolishRequestEater;
+        eater->m_stay = true;
+    }
+
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        Q_UNUSED(watched)
-        return event->type() == QEvent::StyleChange;
+        return event->type() == QEvent::PolishRequest && watched->isWidgetType()
+            && DeferredPolish::isUnseen(static_cast<QWidget *>(watched));
     }
+
+protected:
+    void customEvent(QEvent *event) override
+    {
+        Q_UNUSED(event)
+        if (!m_stay) {
+            delete this;
+            return;
+        }
+        m_stay = false;
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
+
+private:
+    PolishRequestEater()
+        : QObject(QCoreApplication::instance())
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
+
+    bool m_stay = true;
 };
+
+QHash<const QWidget *, DeferredPolish *> &unseenPages()
+{
+    static QHash<const QWidget *, DeferredPolish *> pages;
+    return pages;
+}
+
+DeferredPolish *unseenPageOf(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (DeferredPolish *page = unseenPages().value(widget))
+            return page;
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -30,65 +82,61 @@ DeferredPolish::DeferredPolish(QWidget *page)
     , m_page(page)
 {
     page->installEventFilter(this);
+    unseenPages().insert(page, this);
+}
+
+DeferredPolish::~DeferredPolish()
+{
+    unseenPages().remove(m_page);
+}
+
+bool DeferredPolish::isUnseen(const QWidget *widget)
+{
+    return unseenPageOf(widget->parentWidget())
+        || (widget->isHidden() && qobject_cast<const RibbonTab *>(widget));
+}
+
+void DeferredPolish::eatRequests()
+{
+    PolishRequestEater::stay();
+}
+
+QWidget *DeferredPolish::nursery(QWidget *parent)
+{
+    DeferredPolish *page = unseenPageOf(parent);
+    if (!page)
+        return parent;
+    if (!page->m_nursery)
+        page->m_nursery = std::make_unique<QWidget>();
+    return page->m_nursery.get();
 }
 
 void DeferredPolish::adopt(QWidget *widget, QWidget *parent)
 {
-    StyleChangeEater eater;
-    if (!parent->isVisible()) {
-        widget->installEventFilter(&eater);
-        const QList<QWidget *> children = widget->findChildren<QWidget *>();
-        for (QWidget *child : children)
-            child->installEventFilter(&eater);
-    }
+    if (widget->parentWidget() == parent)
+        return;
+    PolishRequestEater::stay();
+    const StyleChangeEater eater;
     widget->setParent(parent);
 }
 
 bool DeferredPolish::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::ChildAdded:
-        watch(static_cast<QChildEvent *>(event)->child());
-        return false;
-    case QEvent::PolishRequest:
-        return watched != m_page;
-    case QEvent::StyleChange:
-        // Frames and buttons answer it by asking the style; finish() makes up for it.
-        m_styleChanged = m_styleChanged || watched != m_page;
-        return watched != m_page;
-    case QEvent::Show:
-    case QEvent::Paint:
-        if (watched == m_page)
-            finish();
-        return false;
-    default:
-        return false;
-    }
-}
-
-void DeferredPolish::watch(QObject *widget)
-{
-    if (!widget->isWidgetType())
-        return;
-    widget->installEventFilter(this);
-    for (QObject *child : widget->children())
-        watch(child);
+    Q_UNUSED(watched)
+    if (event->type() == QEvent::Show || event->type() == QEvent::Paint)
+        finish();
+    return false;
 }
 
 void DeferredPolish::finish()
 {
     m_page->removeEventFilter(this);
+    unseenPages().remove(m_page);
     // What the page's name and properties select may have changed since it was polished.
     m_page->style()->polish(m_page);
     const QList<QWidget *> widgets = m_page->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        widget->removeEventFilter(this);
+    for (QWidget *widget : widgets)
         widget->ensurePolished();
-        if (m_styleChanged) {
-            QEvent change(QEvent::StyleChange);
-            QCoreApplication::sendEvent(widget, &change);
-        }
-    }
     // Buttons took their sizes when they were shown: settle the layouts, innermost first, so that
     // the first frame has everything in its place.
     for (auto widget = widgets.crbegin(); widget != widgets.crend(); ++widget) {
@@ -97,6 +145,7 @@ void DeferredPolish::finish()
     }
     if (QLayout *layout = m_page->layout())
         layout->activate();
+    m_nursery.reset();
     deleteLater();
 }
 

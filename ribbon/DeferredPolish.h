@@ -5,6 +5,8 @@
 
 #include <QtCore/QObject>
 
+#include <memory>
+
 class QWidget;
 
 namespace Norvane {
@@ -25,23 +27,30 @@ class DeferredPolish : public QObject
 public:
     //! Watches over \a page, which owns it, until \a page is shown.
     explicit DeferredPolish(QWidget *page);
+    ~DeferredPolish() override;
 
     /*!
-        Makes \a parent the parent of \a widget, a new one of ours that was made without a parent.
-        A frame or tool button asks its style at once when it is made under a style sheet or comes
-        under one; as long as \a parent is not visible nobody needs the answer, which costs as
-        much as polishing and is kept for every widget.
+        Returns where a new widget that will be a child of \a parent is to be made: outside of any
+        style sheet when \a parent is on a page that was never shown, else in \a parent itself.
+        Frames and tool buttons ask their style when they are made. Under a sheet that costs as much
+        as polishing, and Qt keeps the answer, which takes more memory than the widget.
     */
+    static QWidget *nursery(QWidget *parent);
+    //! Spares a new widget the request to be polished that it has posted to itself.
+    static void eatRequests();
+    //! Brings \a widget from the nursery to \a parent.
     static void adopt(QWidget *widget, QWidget *parent);
+
+    //! Tells whether \a widget is on a page that was never shown, or a hidden tab.
+    static bool isUnseen(const QWidget *widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void watch(QObject *widget);
     void finish();
 
     QWidget *const m_page;
-    bool m_styleChanged = false;
+    std::unique_ptr<QWidget> m_nursery;
 };
 
 } // namespace Norvane

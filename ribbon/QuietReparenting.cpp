@@ -3,6 +3,8 @@
 
 #include "QuietReparenting.h"
 
+#include "StyleChangeEater.h"
+
 #include <QtCore/QEvent>
 #include <QtWidgets/QWidget>
 
@@ -25,6 +27,7 @@ bool QuietReparenting::eventFilter(QObject *watched, QEvent *event)
         m_parent = m_widget->parentWidget();
         if (m_styleKeeper) {
             m_widget->setStyleSheet(m_sheet);
+            m_eater.reset();
             m_styleKeeper.reset();
         }
     } else if (watched != m_widget && event->type() == QEvent::StyleChange && !m_styleKeeper
@@ -34,6 +37,7 @@ bool QuietReparenting::eventFilter(QObject *watched, QEvent *event)
         // Qt goes on to use the style, which must outlive the sheet.
         m_styleKeeper = std::make_unique<QWidget>();
         m_styleKeeper->setStyle(m_widget->style());
+        m_eater = std::make_unique<StyleChangeEater>();
         m_widget->setStyleSheet({});
     }
     return false;

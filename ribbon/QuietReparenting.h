@@ -13,9 +13,11 @@ class QWidget;
 
 namespace Norvane {
 
+class StyleChangeEater;
+
 /*!
     Keeps a widget with a style sheet of its own from polishing all its descendants, twice each,
-   when it gets a parent before it was ever shown. The sheet is taken off while the widget goes over
+    when it gets a parent before it was ever shown. The sheet is taken off while the widget goes over
    to its parent, and is on again when the call that gave the parent returns.
 */
 class QuietReparenting : public QObject
@@ -34,6 +36,7 @@ private:
     QPointer<QWidget> m_parent;
     QString m_sheet;
     std::unique_ptr<QWidget> m_styleKeeper;
+    std::unique_ptr<StyleChangeEater> m_eater;
 };
 
 } // namespace Norvane

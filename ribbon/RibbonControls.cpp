@@ -13,7 +13,7 @@ namespace Norvane::RibbonControls {
 
 RibbonButton *createButton(QAction *action, Qt::ToolButtonStyle style, QWidget *parent)
 {
-    auto *button = new RibbonButton;
+    auto *button = new RibbonButton(DeferredPolish::nursery(parent));
     button->setFocusPolicy(Qt::NoFocus);
     button->setToolButtonStyle(style);
     button->bindAction(action);

@@ -29,7 +29,7 @@ RibbonGroupPrivate::~RibbonGroupPrivate() = default;
 
 QFrame *RibbonGroupPrivate::createSeparator()
 {
-    auto *separator = new QFrame;
+    auto *separator = new QFrame(DeferredPolish::nursery(q_func()));
     separator->setObjectName(QStringLiteral("separator"));
     separator->setFrameShape(QFrame::VLine);
     separator->setFixedSize(1, 80);
@@ -98,7 +98,7 @@ QAction *RibbonGroup::addWidget(QWidget *widget)
 RibbonSubgroup *RibbonGroup::addSubgroup()
 {
     Q_D(RibbonGroup);
-    auto *subgroup = new RibbonSubgroup;
+    auto *subgroup = new RibbonSubgroup(DeferredPolish::nursery(this));
     DeferredPolish::adopt(subgroup, this);
     if (d->contentLayout)
         d->contentLayout->addWidget(subgroup);

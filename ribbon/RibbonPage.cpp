@@ -68,7 +68,7 @@ RibbonGroup *RibbonPage::addGroup(const QString &title)
 {
     Q_D(RibbonPage);
     ensurePolished();
-    auto *group = new RibbonGroup(title);
+    auto *group = new RibbonGroup(title, DeferredPolish::nursery(this));
     DeferredPolish::adopt(group, this);
     d->layout->addWidget(group);
     d->groups.append(group);

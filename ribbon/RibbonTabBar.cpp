@@ -3,6 +3,7 @@
 
 #include "RibbonTabBar_p.h"
 
+#include "DeferredPolish.h"
 #include "RibbonTab.h"
 
 #include <QtGui/QPainter>
@@ -48,6 +49,9 @@ RibbonTabBar::~RibbonTabBar() = default;
 int RibbonTabBar::addTab(const QString &text, bool temporary)
 {
     Q_D(RibbonTabBar);
+    // A hidden tab is polished when it is shown: showing a polished bar does not descend to it.
+    ensurePolished();
+    DeferredPolish::eatRequests();
     auto *tab = new RibbonTab(text, this);
     tab->setTemporary(temporary);
     if (d->tabs.isEmpty())
