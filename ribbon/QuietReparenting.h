@@ -17,8 +17,8 @@ class StyleChangeEater;
 
 /*!
     Keeps a widget with a style sheet of its own from polishing all its descendants, twice each,
-    when it gets a parent before it was ever shown. The sheet is taken off while the widget goes over
-   to its parent, and is on again when the call that gave the parent returns.
+    when it gets a parent before it was ever shown. The sheet is taken off while the widget goes
+    over to its parent, and is on again when the call that gave the parent returns.
 */
 class QuietReparenting : public QObject
 {
