@@ -11,7 +11,6 @@ needs() {
         case $set in
         qt) cat <<'END' ;;
 qt6-base-dev qt Qt6Widgets
-qt6-svg-dev qt Qt6Svg
 qt6-svg-plugins plugin iconengines/libqsvgicon.so
 qt6-l10n-tools program lrelease
 END
