@@ -241,6 +241,16 @@ class DevTest(unittest.TestCase):
                 self.assertEqual(process.returncode, expected)
                 self.assertEqual(self.machine.cache(), ["lock"])
 
+    def test_clears_what_a_killed_run_left(self):
+        left = self.machine.home / ".cache/norvane/making/usr/half"
+        left.mkdir(parents=True)
+        self.machine.is_debian("6.4.2")
+        self.machine.makes_roots()
+        status, output = self.machine.dev("test")
+        self.assertEqual(status, 0, output)
+        [root] = [name for name in self.machine.cache() if name != "lock"]
+        self.assertFalse((self.machine.home / ".cache/norvane" / root / "usr/half").exists())
+
     def test_asks_to_delete_a_root_that_lacks_something(self):
         self.machine.environment["NORVANE_ROOT"] = "/some/root"
         self.machine.is_debian("6.4.2")
