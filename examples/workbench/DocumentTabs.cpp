@@ -53,7 +53,8 @@ Document *DocumentTabs::find(const QString &path) const
         return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
     };
     const QString wanted = identity(path);
-    for (Document *document : documents()) {
+    const QList<Document *> open = documents();
+    for (Document *document : open) {
         if (identity(document->path()) == wanted)
             return document;
     }

@@ -24,7 +24,8 @@ namespace Workbench {
 static QStringList localFiles(const QMimeData *data)
 {
     QStringList paths;
-    for (const QUrl &url : data->urls()) {
+    const QList<QUrl> urls = data->urls();
+    for (const QUrl &url : urls) {
         if (url.isLocalFile())
             paths << url.toLocalFile();
     }

@@ -304,7 +304,8 @@ void tst_DeferredPolish::polishesEachWidgetOnceAtTheFirstVisit()
     window.bar->setCurrentIndex(1);
     settle();
     check(window.bar->page(1));
-    for (QWidget *widget : widgetsOf(window.bar->page(2)))
+    const QList<QWidget *> widgets = widgetsOf(window.bar->page(2));
+    for (QWidget *widget : widgets)
         QVERIFY(!counter.events.contains(widget));
     window.bar->setCurrentIndex(2);
     settle();
@@ -328,7 +329,8 @@ void tst_DeferredPolish::polishesWhatIsAddedToASeenPage()
     window.fill(window.bar->page(1));
     settle();
     QCOMPARE(widgetsOf(window.bar->page(1)).size(), 2 * before);
-    for (QWidget *widget : widgetsOf(window.bar->page(1))) {
+    const QList<QWidget *> widgets = widgetsOf(window.bar->page(1));
+    for (QWidget *widget : widgets) {
         QVERIFY2(widget->isVisible(), qPrintable(nameOf(widget)));
         QVERIFY2(counter.events.value(widget) == 1, qPrintable(nameOf(widget)));
     }
@@ -381,14 +383,16 @@ void tst_DeferredPolish::looksAsIfFilledWhileShown()
     settle();
     const QImage expected = Gui::picture(reference.stack());
     QStringList places;
-    for (const QWidget *widget : widgetsOf(reference.bar->page(0)))
+    const QList<QWidget *> widgets = widgetsOf(reference.bar->page(0));
+    for (const QWidget *widget : widgets)
         places << QDebug::toString(widget->geometry());
 
     for (int i : {1, 2}) {
         window.bar->setCurrentIndex(i);
         QTRY_COMPARE(Gui::picture(window.stack()), expected);
         QStringList seen;
-        for (const QWidget *widget : widgetsOf(window.bar->page(i)))
+        const QList<QWidget *> widgets = widgetsOf(window.bar->page(i));
+        for (const QWidget *widget : widgets)
             seen << QDebug::toString(widget->geometry());
         QCOMPARE(seen, places);
     }
@@ -530,7 +534,8 @@ void tst_DeferredPolish::survivesDeletionsBeforeTheVisit()
     for (int i : {1, 2}) {
         window.bar->setCurrentIndex(i);
         settle();
-        for (QWidget *widget : widgetsOf(window.bar->page(i)))
+        const QList<QWidget *> widgets = widgetsOf(window.bar->page(i));
+        for (QWidget *widget : widgets)
             QVERIFY2(widget->testAttribute(Qt::WA_WState_Polished), qPrintable(nameOf(widget)));
     }
     // What has left the page is polished when it is shown, wherever that is.
@@ -546,7 +551,8 @@ void tst_DeferredPolish::showsAPageOnItsOwn()
     window.fill(&page);
     page.resize(800, 95);
     QVERIFY(Gui::open(&page));
-    for (QWidget *widget : widgetsOf(&page)) {
+    const QList<QWidget *> widgets = widgetsOf(&page);
+    for (QWidget *widget : widgets) {
         QVERIFY2(widget->isVisible(), qPrintable(nameOf(widget)));
         QVERIFY2(counter.events.value(widget) == 1, qPrintable(nameOf(widget)));
     }

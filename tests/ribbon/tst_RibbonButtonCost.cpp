@@ -199,7 +199,8 @@ void tst_RibbonButtonCost::firstShow()
     QCOMPARE(m_calls.resizes.size(), 18);
     QCOMPARE_LE(m_calls.most(m_calls.sizeHints), 1);
     for (const int page : {1, 2}) {
-        for (const RibbonButton *button : window.buttons(page))
+        const QList<RibbonButton *> buttons = window.buttons(page);
+        for (const RibbonButton *button : buttons)
             QVERIFY(!m_calls.sizeHints.contains(button));
     }
 }
@@ -257,7 +258,7 @@ void tst_RibbonButtonCost::hoveringPaintsOneButton()
 {
     Window window;
     QVERIFY(open(window));
-    RibbonButton *button = window.buttons(0).first();
+    RibbonButton *button = window.buttons(0).constFirst();
     QTest::mouseMove(window.windowHandle(), QPoint(window.width() - 2, window.height() - 2));
     window.settle();
     m_calls.reset();
@@ -274,7 +275,7 @@ void tst_RibbonButtonCost::changedText()
 {
     Window window;
     QVERIFY(open(window));
-    RibbonButton *button = window.buttons(0).first();
+    RibbonButton *button = window.buttons(0).constFirst();
     m_calls.reset();
     button->defaultAction()->setText(QStringLiteral("Another line"));
     QTRY_COMPARE(m_calls.paints.value(button), 1);

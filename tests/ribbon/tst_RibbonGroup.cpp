@@ -30,7 +30,8 @@ namespace {
 class Host : public Scene
 {
 public:
-    explicit Host(const QString &title = QString()) : group(new RibbonGroup(title))
+    explicit Host(const QString &title = QString())
+        : group(new RibbonGroup(title))
     {
         resize(600, 110);
         auto *layout = new QHBoxLayout(this);
@@ -122,7 +123,10 @@ private:
 class Maker : public QWidgetAction
 {
 public:
-    explicit Maker(QObject *parent) : QWidgetAction(parent) { }
+    explicit Maker(QObject *parent)
+        : QWidgetAction(parent)
+    {
+    }
 
     QWidget *askedBy = nullptr;
     QPointer<QWidget> made;
@@ -226,7 +230,7 @@ void tst_RibbonGroup::newGroup()
     QCOMPARE(title->maximumHeight(), 12);
 
     QCOMPARE(separatorsOf(&group).size(), 1);
-    const QFrame *line = separatorsOf(&group).first();
+    const QFrame *line = separatorsOf(&group).constFirst();
     QCOMPARE(line->frameShape(), QFrame::VLine);
     QCOMPARE(line->minimumSize(), QSize(1, 80));
     QCOMPARE(line->maximumSize(), QSize(1, 80));
@@ -240,7 +244,7 @@ void tst_RibbonGroup::emptyGroupsGeometry()
     QVERIFY(width > 20);
     QTRY_COMPARE(host.group->size(), QSize(width + 3 + 1 + 3, 95));
     QCOMPARE(titleOf(host.group)->geometry(), Plan(QStringLiteral("Clipboard"), {}).title());
-    QCOMPARE(separatorsOf(host.group).first()->geometry(), QRect(width + 3, 7, 1, 80));
+    QCOMPARE(separatorsOf(host.group).constFirst()->geometry(), QRect(width + 3, 7, 1, 80));
 }
 
 void tst_RibbonGroup::widthIsWhatTheContentNeeds()
@@ -256,7 +260,7 @@ void tst_RibbonGroup::widthIsWhatTheContentNeeds()
     QCOMPARE(host.group->size(), QSize(36 + 3 + 1 + 3, 95));
     QCOMPARE(buttonOf(host.group, &action)->geometry(), QRect(0, 4, 36, 72));
     QCOMPARE(titleOf(host.group)->geometry(), QRect(0, 79, 36, 12));
-    QCOMPARE(separatorsOf(host.group).first()->geometry(), QRect(39, 7, 1, 80));
+    QCOMPARE(separatorsOf(host.group).constFirst()->geometry(), QRect(39, 7, 1, 80));
 }
 
 void tst_RibbonGroup::titleWiderThanTheContent()
@@ -308,9 +312,10 @@ void tst_RibbonGroup::coloursInABar()
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
     const int width = titleOf(group)->sizeHint().width() + 7;
     QTRY_COMPARE(group->width(), width);
-    QTRY_COMPARE(separatorsOf(group).last()->x(), width - 4);
+    QTRY_COMPARE(separatorsOf(group).constLast()->x(), width - 4);
     const Shot shot(group);
-    for (const QFrame *line : separatorsOf(group))
+    const QList<QFrame *> lines = separatorsOf(group);
+    for (const QFrame *line : lines)
         QCOMPARE(shot.otherThan(QColor(191, 191, 191), line->geometry()), QString());
     QCOMPARE(shot.otherThan(QColor(245, 245, 245), QRect(group->width() - 3, 0, 3, 95)), QString());
     const QRect title = shot.bounds(QColor(97, 97, 97), titleOf(group)->geometry());
@@ -328,7 +333,7 @@ void tst_RibbonGroup::actionBecomesLargeButton()
     QCOMPARE(group.actions(), {&action});
     QCOMPARE(action.parent(), nullptr);
     QCOMPARE(buttonsOf(&group).size(), 1);
-    const RibbonButton *button = buttonsOf(&group).first();
+    const RibbonButton *button = buttonsOf(&group).constFirst();
     QCOMPARE(button->defaultAction(), &action);
     QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
     QCOMPARE(button->focusPolicy(), Qt::NoFocus);
@@ -374,15 +379,15 @@ void tst_RibbonGroup::everythingKeepsTheOrderOfTheCalls()
     QTRY_COMPARE(host.group->width(), 36 + 4 + 1 + 4 + 50 + 4 + 34 + 4 + 36 + 4 + 36 + 7);
     const Plan plan(QString(), {{36, 72}, {1, 80}, {50, 20}, {34, 22}, {36, 72}, {36, 72}});
     QCOMPARE(buttonOf(host.group, &first)->geometry(), plan.control(0));
-    QCOMPARE(separatorsOf(host.group).first()->geometry(), plan.control(1));
-    QCOMPARE(separatorsOf(host.group).first()->x(), 40);
+    QCOMPARE(separatorsOf(host.group).constFirst()->geometry(), plan.control(1));
+    QCOMPARE(separatorsOf(host.group).constFirst()->x(), 40);
     QCOMPARE(box->geometry(), plan.control(2));
     QCOMPARE(box->x(), 45);
     QCOMPARE(subgroup->geometry(), plan.control(3));
     QCOMPARE(subgroup->x(), 99);
     QCOMPARE(buttonOf(host.group, menu.menuAction())->x(), 137);
     QCOMPARE(buttonOf(host.group, &last)->x(), 177);
-    QCOMPARE(separatorsOf(host.group).last()->x(), 216);
+    QCOMPARE(separatorsOf(host.group).constLast()->x(), 216);
 }
 
 void tst_RibbonGroup::inheritedWaysToAddActions()
@@ -530,7 +535,7 @@ void tst_RibbonGroup::addSeparator()
     QVERIFY(host.open());
     QTRY_COMPARE(host.group->width(), 36 + 4 + 1 + 4 + 36 + 7);
     QCOMPARE(separatorsOf(host.group).size(), 2);
-    const QFrame *line = separatorsOf(host.group).first();
+    const QFrame *line = separatorsOf(host.group).constFirst();
     QCOMPARE(line->frameShape(), QFrame::VLine);
     QCOMPARE(line->geometry(), QRect(40, 1, 1, 80));
     QCOMPARE(line->minimumSize(), QSize(1, 80));
@@ -550,7 +555,7 @@ void tst_RibbonGroup::separatorActionOfTheCaller()
         QVERIFY(host.open());
         QCOMPARE(buttonsOf(host.group).size(), 0);
         QCOMPARE(separatorsOf(host.group).size(), 2);
-        QCOMPARE(separatorsOf(host.group).first()->size(), QSize(1, 80));
+        QCOMPARE(separatorsOf(host.group).constFirst()->size(), QSize(1, 80));
     }
     // The caller's stays the caller's.
     QVERIFY(separator.isSeparator());
@@ -891,7 +896,7 @@ void tst_RibbonGroup::menuDeletedBeforeTheGroup()
     Host host;
     host.group->addMenu(menu, QToolButton::InstantPopup);
     QVERIFY(host.open());
-    RibbonButton *button = buttonsOf(host.group).first();
+    RibbonButton *button = buttonsOf(host.group).constFirst();
     delete menu;
     QCOMPARE(host.group->actions(), QList<QAction *>());
     host.grab();
@@ -906,7 +911,7 @@ void tst_RibbonGroup::groupDeletedWhileItsMenuIsOpen()
     Host host;
     host.group->addMenu(&menu, QToolButton::InstantPopup);
     QVERIFY(host.open());
-    RibbonButton *button = buttonsOf(host.group).first();
+    RibbonButton *button = buttonsOf(host.group).constFirst();
     connect(entry, &QAction::triggered, &menu, [&host] { delete host.group; });
     QVERIFY(whileOpen(
         &menu, [&] { host.press(button, QPoint(10, 10)); },

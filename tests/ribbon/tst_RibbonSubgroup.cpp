@@ -21,7 +21,8 @@ namespace {
 class Host : public Scene
 {
 public:
-    Host() : subgroup(new RibbonSubgroup)
+    Host()
+        : subgroup(new RibbonSubgroup)
     {
         auto *layout = new QHBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -121,7 +122,7 @@ void tst_RibbonSubgroup::actionBecomesSmallButton()
     QCOMPARE(subgroup.actions(), {&action});
     QCOMPARE(action.parent(), nullptr);
     QCOMPARE(buttonsOf(&subgroup).size(), 1);
-    const RibbonButton *button = buttonsOf(&subgroup).first();
+    const RibbonButton *button = buttonsOf(&subgroup).constFirst();
     QCOMPARE(button->defaultAction(), &action);
     QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     QCOMPARE(button->focusPolicy(), Qt::NoFocus);
@@ -567,12 +568,13 @@ void tst_RibbonSubgroup::actionInColumnAndRow()
     QVERIFY(host.open());
     QCOMPARE(buttonsOf(host.subgroup).size(), 3);
     action->setVisible(false);
-    for (const RibbonButton *button : buttonsOf(host.subgroup))
+    const QList<RibbonButton *> buttons = buttonsOf(host.subgroup);
+    for (const RibbonButton *button : buttons)
         QVERIFY(button->isHidden());
     action->setVisible(true);
     QTRY_COMPARE(host.subgroup->height(), 46);
     QSignalSpy triggered(action, &QAction::triggered);
-    for (RibbonButton *button : buttonsOf(host.subgroup))
+    for (RibbonButton *button : buttons)
         host.click(button, QPoint(10, 10));
     QCOMPARE(triggered.count(), 3);
     delete action;
@@ -585,7 +587,7 @@ void tst_RibbonSubgroup::menuDeletedBeforeTheColumn()
     Host host;
     host.subgroup->addMenu(menu, QToolButton::InstantPopup);
     QVERIFY(host.open());
-    RibbonButton *button = buttonsOf(host.subgroup).first();
+    RibbonButton *button = buttonsOf(host.subgroup).constFirst();
     delete menu;
     QCOMPARE(host.subgroup->actions(), QList<QAction *>());
     host.grab();

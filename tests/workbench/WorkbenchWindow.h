@@ -65,7 +65,8 @@ public:
     QStringList pages() const
     {
         QStringList titles;
-        for (const QAbstractButton *tab : ribbonTabs()) {
+        const QList<QAbstractButton *> tabs = ribbonTabs();
+        for (const QAbstractButton *tab : tabs) {
             if (tab->isVisible())
                 titles << tab->text();
         }
@@ -73,7 +74,8 @@ public:
     }
     QString currentPage() const
     {
-        for (const QAbstractButton *tab : ribbonTabs()) {
+        const QList<QAbstractButton *> tabs = ribbonTabs();
+        for (const QAbstractButton *tab : tabs) {
             if (tab->isChecked())
                 return tab->text();
         }
@@ -81,7 +83,8 @@ public:
     }
     void clickPage(const QString &title) const
     {
-        for (const QAbstractButton *tab : ribbonTabs()) {
+        const QList<QAbstractButton *> tabs = ribbonTabs();
+        for (const QAbstractButton *tab : tabs) {
             if (tab->text() == title)
                 Gui::click(tab);
         }
@@ -97,7 +100,8 @@ public:
     //! The visible button of the command; null if its page is not in front.
     QToolButton *button(const QString &command) const
     {
-        for (QToolButton *button : ribbon()->findChildren<QToolButton *>()) {
+        const QList<QToolButton *> buttons = ribbon()->findChildren<QToolButton *>();
+        for (QToolButton *button : buttons) {
             if (button->isVisible() && button->defaultAction()
                 && button->defaultAction()->text() == command)
                 return button;
@@ -107,7 +111,8 @@ public:
     //! The command, wherever its button is.
     QAction *command(const QString &text) const
     {
-        for (QAction *action : ribbon()->commands()) {
+        const QList<QAction *> actions = ribbon()->commands();
+        for (QAction *action : actions) {
             if (action->text() == text)
                 return action;
         }
@@ -153,7 +158,8 @@ public:
     }
     static void pickEntry(QMenu *menu, const QString &entry)
     {
-        for (QAction *action : menu->actions()) {
+        const QList<QAction *> actions = menu->actions();
+        for (QAction *action : actions) {
             if (action->text() == entry) {
                 Gui::moveMouse(menu, menu->actionGeometry(action).center());
                 Gui::click(menu, menu->actionGeometry(action).center());
@@ -182,7 +188,8 @@ private:
     QList<QAbstractButton *> ribbonTabs() const
     {
         QList<QAbstractButton *> tabs;
-        for (auto *button : ribbon()->findChildren<QAbstractButton *>()) {
+        const QList<QAbstractButton *> buttons = ribbon()->findChildren<QAbstractButton *>();
+        for (auto *button : buttons) {
             if (button->inherits("Norvane::RibbonTab"))
                 tabs << button;
         }
@@ -226,7 +233,8 @@ public:
                   auto *box = static_cast<QMessageBox *>(dialog);
                   text = box->text();
                   information = box->informativeText();
-                  for (const QLabel *label : box->findChildren<QLabel *>())
+                  const QList<QLabel *> labels = box->findChildren<QLabel *>();
+                  for (const QLabel *label : labels)
                       plain = plain
                           && (label->text().isEmpty() || label->textFormat() == Qt::PlainText);
                   Gui::click(box->button(button));

@@ -288,7 +288,8 @@ void tst_FileCommands::savesAll()
     QCOMPARE(files.read(QStringLiteral("a.txt")), QByteArray("a"));
     QCOMPARE(QImage(files.path(QStringLiteral("b.png"))).size(), QSize(4, 8));
     QCOMPARE(files.read(QStringLiteral("c.txt")), QByteArray("xc"));
-    for (const Document *document : window.tabs()->documents())
+    const QList<Document *> documents = window.tabs()->documents();
+    for (const Document *document : documents)
         QVERIFY(!document->isModified());
 }
 

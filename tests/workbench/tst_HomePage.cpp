@@ -139,7 +139,8 @@ void tst_HomePage::offersOnlyWhatApplies()
 
     // Commands that the mouse does not reach are not carried out, either.
     window.clickButton(QStringLiteral("Close"));
-    for (QAction *command : window.ribbon()->commands()) {
+    const QList<QAction *> commands = window.ribbon()->commands();
+    for (QAction *command : commands) {
         if (!command->isEnabled())
             command->trigger();
     }

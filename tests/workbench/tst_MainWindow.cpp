@@ -38,7 +38,8 @@ void tst_MainWindow::showsTheDocumentInFront()
     QVERIFY(window.windowTitle().startsWith(QStringLiteral("b.png")));
     const auto summary = [&] {
         QStringList texts;
-        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>())
+        const QList<QLabel *> labels = window.statusBar()->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
             texts << label->text();
         return texts.join(u' ');
     };
@@ -135,7 +136,8 @@ void tst_MainWindow::staysWhenOneDocumentIsKept()
     QCOMPARE(asked.size(), 2);
     QVERIFY(window.isVisible());
     QCOMPARE(window.tabs()->count(), 2);
-    for (const Document *document : window.tabs()->documents())
+    const QList<Document *> documents = window.tabs()->documents();
+    for (const Document *document : documents)
         QVERIFY(document->isModified());
 }
 
@@ -170,7 +172,8 @@ void tst_MainWindow::opensDroppedFiles()
     QVERIFY(drop.isAccepted());
     QTRY_COMPARE(window.tabs()->count(), onText ? 3 : 2);
     QCOMPARE(window.document()->title(), QStringLiteral("b.png"));
-    for (const Document *document : window.tabs()->documents())
+    const QList<Document *> documents = window.tabs()->documents();
+    for (const Document *document : documents)
         QVERIFY(!document->isModified());
 }
 

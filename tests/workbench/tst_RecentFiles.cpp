@@ -32,7 +32,8 @@ static QString path(int number)
 static QStringList texts(const QMenu &menu)
 {
     QStringList texts;
-    for (const QAction *action : menu.actions()) {
+    const QList<QAction *> actions = menu.actions();
+    for (const QAction *action : actions) {
         if (!action->isSeparator())
             texts << action->text();
     }
@@ -63,8 +64,8 @@ void tst_RecentFiles::keepsTenAtMost()
     for (int number = 1; number <= 12; ++number)
         recent.add(path(number));
     QCOMPARE(recent.paths().size(), 10);
-    QCOMPARE(recent.paths().first(), path(12));
-    QCOMPARE(recent.paths().last(), path(3));
+    QCOMPARE(recent.paths().constFirst(), path(12));
+    QCOMPARE(recent.paths().constLast(), path(3));
 }
 
 void tst_RecentFiles::isKeptFromStartToStart()
@@ -89,7 +90,7 @@ void tst_RecentFiles::fillsAMenu()
     QCOMPARE(texts(menu).size(), 3);
     QVERIFY(texts(menu).at(0).startsWith(QStringLiteral("2.txt")));
     QVERIFY(texts(menu).at(1).startsWith(QStringLiteral("1.txt")));
-    QCOMPARE(menu.actions().first()->toolTip(), QDir::toNativeSeparators(path(2)));
+    QCOMPARE(menu.actions().constFirst()->toolTip(), QDir::toNativeSeparators(path(2)));
 
     QSignalSpy picked(&recent, &RecentFiles::picked);
     menu.actions().at(1)->trigger();
@@ -105,8 +106,8 @@ void tst_RecentFiles::showsAmpersandsAsTheyAre()
     QMenu menu;
     recent.fill(&menu);
     Q_EMIT menu.aboutToShow();
-    QVERIFY(texts(menu).first().startsWith(QStringLiteral("this && that.txt")));
-    QVERIFY(texts(menu).first().endsWith(QStringLiteral("salt && pepper")));
+    QVERIFY(texts(menu).constFirst().startsWith(QStringLiteral("this && that.txt")));
+    QVERIFY(texts(menu).constFirst().endsWith(QStringLiteral("salt && pepper")));
 }
 
 void tst_RecentFiles::clears()
@@ -116,11 +117,11 @@ void tst_RecentFiles::clears()
     QMenu menu;
     recent.fill(&menu);
     Q_EMIT menu.aboutToShow();
-    menu.actions().last()->trigger();
+    menu.actions().constLast()->trigger();
     QVERIFY(recent.paths().isEmpty());
     Q_EMIT menu.aboutToShow();
     QCOMPARE(menu.actions().size(), 1);
-    QVERIFY(!menu.actions().first()->isEnabled());
+    QVERIFY(!menu.actions().constFirst()->isEnabled());
 }
 
 NORVANE_TEST_MAIN(tst_RecentFiles)

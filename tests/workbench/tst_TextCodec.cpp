@@ -99,7 +99,8 @@ void tst_TextCodec::refusesCharactersThatAnEncodingLacks()
 void tst_TextCodec::namesEveryEncodingDifferently()
 {
     QStringList names;
-    for (TextCodec::Encoding encoding : TextCodec::encodings())
+    const QList<TextCodec::Encoding> encodings = TextCodec::encodings();
+    for (TextCodec::Encoding encoding : encodings)
         names << TextCodec::name(encoding);
     QCOMPARE(names.size(), 5);
     QCOMPARE(names.removeDuplicates(), 0);

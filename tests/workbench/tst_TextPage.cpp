@@ -29,7 +29,8 @@ private Q_SLOTS:
 static QStringList checked(const WorkbenchWindow &window, const QString &command)
 {
     QStringList texts;
-    for (const QAction *action : window.command(command)->menu()->actions()) {
+    const QList<QAction *> actions = window.command(command)->menu()->actions();
+    for (const QAction *action : actions) {
         if (action->isChecked())
             texts << action->text();
     }
@@ -159,12 +160,13 @@ void tst_TextPage::setsTheFontOfAllTexts()
     window.key(Qt::Key_A, Qt::ControlModifier);
     window.type(QStringLiteral("23"));
     window.key(Qt::Key_Return);
-    for (const TextEditor *editor : window.findChildren<TextEditor *>())
+    const QList<TextEditor *> editors = window.findChildren<TextEditor *>();
+    for (const TextEditor *editor : editors)
         QCOMPARE(editor->font().pointSize(), 23);
 
     auto *family = window.ribbon()->findChild<QFontComboBox *>();
     family->setCurrentIndex(family->findText(QStringLiteral("DejaVu Sans")));
-    for (const TextEditor *editor : window.findChildren<TextEditor *>()) {
+    for (const TextEditor *editor : editors) {
         QCOMPARE(editor->font().family(), QStringLiteral("DejaVu Sans"));
         QCOMPARE(editor->font().pointSize(), 23);
     }

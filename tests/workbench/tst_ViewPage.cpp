@@ -79,7 +79,8 @@ void tst_ViewPage::wrapsAllTexts()
     QVERIFY(!window.button(QStringLiteral("Wrap\nLines"))->isChecked());
     window.clickButton(QStringLiteral("Wrap\nLines"));
     window.open({files.write(QStringLiteral("c.txt"), "c")});
-    for (TextEditor *editor : window.findChildren<TextEditor *>())
+    const QList<TextEditor *> editors = window.findChildren<TextEditor *>();
+    for (TextEditor *editor : editors)
         QCOMPARE(editor->lineWrapMode(), QPlainTextEdit::WidgetWidth);
     QVERIFY(window.button(QStringLiteral("Wrap\nLines"))->isChecked());
     window.clickButton(QStringLiteral("Wrap\nLines"));

@@ -116,7 +116,8 @@ void tst_WorkbenchRibbon::marksTemporaryPages()
     const Files files;
     const WorkbenchWindow window(samples(files));
     const auto besides = [&](const QString &title) {
-        for (QAbstractButton *tab : window.ribbon()->findChildren<QAbstractButton *>()) {
+        const QList<QAbstractButton *> tabs = window.ribbon()->findChildren<QAbstractButton *>();
+        for (QAbstractButton *tab : tabs) {
             if (tab->text() == title && tab->inherits("Norvane::RibbonTab")) {
                 const QPoint corner(tab->mapTo(window.ribbon(), QPoint(-1, 10)));
                 return Gui::pixel(window.ribbon(), corner);
@@ -131,7 +132,8 @@ void tst_WorkbenchRibbon::marksTemporaryPages()
 void tst_WorkbenchRibbon::explainsEveryCommand()
 {
     const WorkbenchWindow window;
-    for (const QAction *command : window.ribbon()->commands()) {
+    const QList<QAction *> commands = window.ribbon()->commands();
+    for (const QAction *command : commands) {
         QVERIFY2(!command->toolTip().isEmpty(), qPrintable(command->text()));
         QVERIFY2(!command->toolTip().contains(u'\n'), qPrintable(command->text()));
         QVERIFY2(command->toolTip() != command->text(), qPrintable(command->text()));
@@ -145,7 +147,8 @@ void tst_WorkbenchRibbon::explainsEveryCommand()
 void tst_WorkbenchRibbon::drawsEveryIcon()
 {
     const WorkbenchWindow window;
-    for (const QAction *command : window.ribbon()->commands()) {
+    const QList<QAction *> commands = window.ribbon()->commands();
+    for (const QAction *command : commands) {
         for (int size : {16, 24}) {
             const QImage image = command->icon().pixmap(QSize(size, size), 1.0).toImage();
             QCOMPARE(image.size(), QSize(size, size));
@@ -163,8 +166,10 @@ void tst_WorkbenchRibbon::hasNoShortcutTwice()
 {
     const WorkbenchWindow window;
     QStringList keys;
-    for (const QAction *command : window.ribbon()->commands()) {
-        for (const QKeySequence &key : command->shortcuts())
+    const QList<QAction *> commands = window.ribbon()->commands();
+    for (const QAction *command : commands) {
+        const QList<QKeySequence> shortcuts = command->shortcuts();
+        for (const QKeySequence &key : shortcuts)
             keys << key.toString();
     }
     QVERIFY(keys.size() > 25);
@@ -178,8 +183,9 @@ void tst_WorkbenchRibbon::hasTitlesInOneLine()
     for (const QString &page : withPicture) {
         window.clickPage(page);
         QList<int> heights;
-        for (const QWidget *title :
-             window.ribbon()->findChildren<QWidget *>(QStringLiteral("groupTitle"))) {
+        const QList<QWidget *> titles =
+            window.ribbon()->findChildren<QWidget *>(QStringLiteral("groupTitle"));
+        for (const QWidget *title : titles) {
             const QPoint place = title->mapTo(window.ribbon(), QPoint());
             if (title->isVisible() && window.ribbon()->rect().contains(place))
                 heights << place.y();

@@ -94,7 +94,8 @@ bool FileCommands::saveAs(Document *document)
 bool FileCommands::saveAll()
 {
     bool all = true;
-    for (Document *document : m_tabs->documents()) {
+    const QList<Document *> documents = m_tabs->documents();
+    for (Document *document : documents) {
         if (document->isModified())
             all = save(document) && all;
     }

@@ -69,7 +69,8 @@ void TextPage::addFileFormatGroup()
     m_encodingMenu =
         addMenuCommand({tr("Encoding"), "encoding"_L1, tr("How the text is stored in the file")});
     m_encodings = new QActionGroup(this);
-    for (TextCodec::Encoding encoding : TextCodec::encodings()) {
+    const QList<TextCodec::Encoding> encodings = TextCodec::encodings();
+    for (TextCodec::Encoding encoding : encodings) {
         QAction *action = m_encodingMenu->addAction(TextCodec::name(encoding));
         action->setCheckable(true);
         action->setData(int(encoding));
@@ -82,7 +83,8 @@ void TextPage::addFileFormatGroup()
     m_lineEndMenu =
         addMenuCommand({tr("Line Ends"), "line-ends"_L1, tr("How every line of the file ends")});
     m_lineEnds = new QActionGroup(this);
-    for (LineEnds::LineEnd end : LineEnds::offered()) {
+    const QList<LineEnds::LineEnd> ends = LineEnds::offered();
+    for (LineEnds::LineEnd end : ends) {
         QAction *action = m_lineEndMenu->addAction(LineEnds::name(end));
         action->setCheckable(true);
         action->setData(int(end));
@@ -178,10 +180,12 @@ void TextPage::refresh()
     m_lineEndMenu->menuAction()->setEnabled(editable);
     if (!text)
         return;
-    for (QAction *action : m_encodings->actions())
+    const QList<QAction *> encodings = m_encodings->actions();
+    for (QAction *action : encodings)
         action->setChecked(action->data().toInt() == int(text->encoding()));
     const auto end = text->lineEnd();
-    for (QAction *action : m_lineEnds->actions())
+    const QList<QAction *> lineEnds = m_lineEnds->actions();
+    for (QAction *action : lineEnds)
         action->setChecked(end && action->data().toInt() == int(*end));
 }
 

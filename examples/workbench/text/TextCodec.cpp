@@ -41,7 +41,8 @@ static QByteArray byteOrderMark(TextCodec::Encoding encoding)
 
 static TextCodec::Encoding markedEncoding(const QByteArray &bytes)
 {
-    for (TextCodec::Encoding encoding : TextCodec::encodings()) {
+    const QList<TextCodec::Encoding> encodings = TextCodec::encodings();
+    for (TextCodec::Encoding encoding : encodings) {
         const QByteArray mark = byteOrderMark(encoding);
         if (!mark.isEmpty() && bytes.startsWith(mark))
             return encoding;

@@ -100,7 +100,8 @@ void Tour::showPaths()
     m_player.add(
         u"closing them"_s,
         [tabs] {
-            for (Document *document : tabs->documents())
+            const QList<Document *> documents = tabs->documents();
+            for (Document *document : documents)
                 tabs->remove(document);
         },
         [tabs] { return tabs->count() == 0; });
@@ -112,7 +113,8 @@ void Tour::openSamples()
         u"opening copies of the samples"_s,
         [this] {
             const QDir samples(m_samples);
-            for (const QString &file : samples.entryList(QDir::Files))
+            const QStringList files = samples.entryList(QDir::Files);
+            for (const QString &file : files)
                 QFile::copy(samples.filePath(file), copyOf(file));
             m_window->open({m_folder.path()});
         },
@@ -282,7 +284,8 @@ void Tour::addMenuPick(const QString &entry, std::function<bool()> until)
         u"picking "_s + entry,
         [entry] {
             auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            for (QAction *action : menu->actions()) {
+            const QList<QAction *> actions = menu->actions();
+            for (QAction *action : actions) {
                 if (action->text() == entry)
                     Input::click(menu, menu->actionGeometry(action).center());
             }

@@ -63,7 +63,8 @@ bool TourPlayer::takePicture(const QString &name)
     QPixmap picture = m_window->grab();
     QPainter painter(&picture);
     // A grab holds no other windows: menus, dialogs and tool tips are drawn over it.
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
+    const QList<QWidget *> widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
         if (widget != m_window && widget->isVisible()) {
             const QRect place(m_window->mapFromGlobal(widget->pos()), widget->size());
             painter.drawPixmap(place.topLeft(), widget->grab());
