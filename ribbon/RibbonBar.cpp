@@ -8,8 +8,8 @@
 #include "RibbonPage.h"
 #include "RibbonStackedWidget.h"
 #include "RibbonTabBar.h"
+#include "StyleSheet.h"
 
-#include <QtCore/QFile>
 #include <QtWidgets/QHBoxLayout>
 
 namespace Norvane {
@@ -30,12 +30,6 @@ public:
     bool hasHeightForWidth() const override { return false; }
 };
 
-QString readStyleSheet(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 } // namespace
 
 RibbonBarPrivate::RibbonBarPrivate()
@@ -53,7 +47,7 @@ RibbonBar::RibbonBar(QWidget *parent)
     Q_D(RibbonBar);
     setObjectName(QStringLiteral("RibbonBar"));
     setContextMenuPolicy(Qt::CustomContextMenu);
-    setStyleSheet(readStyleSheet(QStringLiteral(":/res/ribbonLight.css")));
+    setStyleSheet(StyleSheet::read(QStringLiteral(":/res/ribbonLight.css")));
     connect(d->tabBar, &RibbonTabBar::idClicked, d->stackedWidget,
             &QStackedWidget::setCurrentIndex);
     connect(d->tabBar, &RibbonTabBar::idClicked, this, &RibbonBar::signalCurrentPageChanged);

@@ -1,0 +1,322 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "DockContainer_p.h"
+
+#include "DockContentWidget.h"
+#include "DockPanelWidget.h"
+#include "DockState.h"
+#include "DockStatusBar.h"
+#include "StyleSheet.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QTimer>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStackedWidget>
+
+#include <numeric>
+
+namespace Norvane {
+
+DockContainerPrivate::DockContainerPrivate()
+    : outerSplitter(new QSplitter(Qt::Horizontal))
+    , innerSplitter(new QSplitter(Qt::Vertical))
+    , leftPanelWidget(new DockPanelWidget(DockPanelWidget::LeftDirection))
+    , bottomPanelWidget(new DockPanelWidget(DockPanelWidget::BottomDirection))
+    , rightPanelWidget(new DockPanelWidget(DockPanelWidget::RightDirection))
+    , contentWidget(new DockContentWidget)
+    , centreWidget(new QWidget)
+{
+}
+
+DockContainerPrivate::~DockContainerPrivate() = default;
+
+void DockContainerPrivate::build()
+{
+    Q_Q(DockContainer);
+    for (DockPanelWidget *panelWidget :
+         {leftPanelWidget.data(), bottomPanelWidget.data(), rightPanelWidget.data()})
+        panelWidget->setParent(q);
+
+    innerSplitter->setHandleWidth(0);
+    innerSplitter->addWidget(contentWidget);
+    innerSplitter->addWidget(bottomPanelWidget->stackedWidget());
+    innerSplitter->setStretchFactor(0, 50);
+    innerSplitter->setStretchFactor(1, 1);
+    contentWidget->hide();
+
+    auto *column = new QVBoxLayout(centreWidget);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(innerSplitter);
+    column->addWidget(bottomPanelWidget->panel());
+
+    outerSplitter->setHandleWidth(0);
+    outerSplitter->addWidget(leftPanelWidget->stackedWidget());
+    outerSplitter->addWidget(centreWidget);
+    outerSplitter->addWidget(rightPanelWidget->stackedWidget());
+    outerSplitter->setStretchFactor(0, 1);
+    outerSplitter->setStretchFactor(1, 5);
+    outerSplitter->setStretchFactor(2, 1);
+    outerSplitter->setCollapsible(1, false);
+
+    auto *row = new QHBoxLayout(q);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(leftPanelWidget->panel());
+    row->addWidget(outerSplitter);
+    row->addWidget(rightPanelWidget->panel());
+
+    bottomPanelWidget->stackedWidget()->installEventFilter(q);
+    // A window that only gets wider moves the content and not the bottom pane in it.
+    centreWidget->installEventFilter(q);
+}
+
+void DockContainerPrivate::arrange()
+{
+    QList<int> parts;
+    for (int i = 0; i < outerSplitter->count(); ++i) {
+        const QWidget *pane = outerSplitter->widget(i);
+        const auto *stack = qobject_cast<const QStackedWidget *>(pane);
+        const bool seen = !pane->isHidden() && !(stack && stack->count() == 0);
+        parts.append(seen ? pane->sizePolicy().horizontalStretch() : 0);
+    }
+    const int sum = std::accumulate(parts.cbegin(), parts.cend(), 0);
+    for (int &part : parts)
+        part = outerSplitter->width() * part / sum;
+    outerSplitter->setSizes(parts);
+}
+
+void DockContainerPrivate::onOuterMoved()
+{
+    const auto examine = [](DockPanelWidget *panelWidget, qint32 *known) {
+        if (!panelWidget || !panelWidget->stackedWidget())
+            return;
+        const int width = panelWidget->stackedWidget()->width();
+        panelWidget->setMinimized(width == 0);
+        if (width != 0)
+            *known = width;
+    };
+    examine(leftPanelWidget, &leftWidth);
+    examine(rightPanelWidget, &rightWidth);
+}
+
+void DockContainerPrivate::onInnerMoved()
+{
+    if (!bottomPanelWidget || !bottomPanelWidget->stackedWidget())
+        return;
+    const int height = bottomPanelWidget->stackedWidget()->height();
+    bottomPanelWidget->setMinimized(height == 0);
+    if (height != 0)
+        bottomHeight = height;
+}
+
+void DockContainerPrivate::minimizeSide(int pane, qint32 *width, bool minimized)
+{
+    QList<int> sizes = outerSplitter->sizes();
+    if (sizes.size() != 3)
+        return;
+    if (minimized) {
+        *width = sizes.at(pane);
+        sizes[1] += sizes.at(pane);
+        sizes[pane] = 0;
+    } else {
+        // A pane that was dragged to nothing at once has no width to go back to.
+        if (*width == 0)
+            *width = outerSplitter->widget(pane)->sizeHint().width();
+        sizes[pane] = *width;
+        sizes[1] -= *width;
+    }
+    outerSplitter->setSizes(sizes);
+}
+
+void DockContainerPrivate::minimizeBottom(bool minimized)
+{
+    QList<int> sizes = innerSplitter->sizes();
+    if (sizes.size() != 2)
+        return;
+    if (minimized) {
+        if (contentWidget->isHidden())
+            hiddenContentHeight = sizes.at(1);
+        bottomHeight = sizes.at(1);
+        sizes[0] += sizes.at(1);
+        sizes[1] = 0;
+    } else {
+        const int height = innerSplitter->height();
+        if (contentWidget->isVisible() && (bottomHeight == 0 || bottomHeight == height))
+            bottomHeight = height / 4;
+        sizes[1] = bottomHeight;
+        sizes[0] -= bottomHeight;
+    }
+    innerSplitter->setSizes(sizes);
+}
+
+void DockContainerPrivate::setContentVisible(bool visible)
+{
+    if (!visible) {
+        hiddenContentHeight = contentWidget->height();
+        contentWidget->hide();
+        if (hiddenContentHeight == innerSplitter->height() && bottomPanelWidget)
+            bottomPanelWidget->setMinimized(false);
+        return;
+    }
+    contentWidget->show();
+    if (contentWidget->height() != 0 || hiddenContentHeight == 0)
+        return;
+    QList<int> sizes = innerSplitter->sizes();
+    if (sizes.size() != 2)
+        return;
+    if (sizes.at(1) != 0) {
+        sizes[0] = hiddenContentHeight;
+        sizes[1] -= hiddenContentHeight;
+    }
+    if (bottomPanelWidget && !bottomPanelWidget->isMinimized()
+        && (sizes.at(0) == 0 || sizes.at(1) == 0)) {
+        const int height = innerSplitter->height();
+        sizes[0] = height * 3 / 4;
+        sizes[1] = height - sizes.at(0);
+    }
+    innerSplitter->setSizes(sizes);
+}
+
+void DockContainerPrivate::updateStatusBar()
+{
+    if (!mainWindow || !statusBar || !leftPanelWidget || !leftPanelWidget->panel())
+        return;
+    statusBar->setPanelOffset(outerSplitter->sizes().value(0) + leftPanelWidget->panel()->width());
+}
+
+DockContainer::DockContainer(QWidget *parent)
+    : DockContainer(*new DockContainerPrivate, parent)
+{
+    setStyleSheet(StyleSheet::read(QStringLiteral(":/res/dockLight.css")));
+}
+
+DockContainer::DockContainer(DockContainerPrivate &dd, QWidget *parent)
+    : QFrame(parent)
+    , d_ptr(&dd)
+{
+    Q_D(DockContainer);
+    d->q_ptr = this;
+    d->build();
+    connect(d->outerSplitter, &QSplitter::splitterMoved, this, [d] { d->onOuterMoved(); });
+    connect(d->innerSplitter, &QSplitter::splitterMoved, this, [d] { d->onInnerMoved(); });
+    connect(d->leftPanelWidget, &DockPanelWidget::signalMinimized, this,
+            [d](bool minimized) { d->minimizeSide(0, &d->leftWidth, minimized); });
+    connect(d->rightPanelWidget, &DockPanelWidget::signalMinimized, this,
+            [d](bool minimized) { d->minimizeSide(2, &d->rightWidth, minimized); });
+    connect(d->bottomPanelWidget, &DockPanelWidget::signalMinimized, this,
+            [d](bool minimized) { d->minimizeBottom(minimized); });
+    connect(d->contentWidget, &DockContentWidget::signalVisibleChanged, this,
+            [d](bool visible) { d->setContentVisible(visible); });
+}
+
+DockContainer::~DockContainer() = default;
+
+DockPanelWidget *DockContainer::panelWidget(DockArea area) const
+{
+    Q_D(const DockContainer);
+    switch (int(area)) {
+    case LeftDockArea:
+        return d->leftPanelWidget;
+    case BottomDockArea:
+        return d->bottomPanelWidget;
+    default:
+        return d->rightPanelWidget;
+    }
+}
+
+DockContentWidget *DockContainer::contentWidget() const
+{
+    Q_D(const DockContainer);
+    return d->contentWidget;
+}
+
+void DockContainer::setupMainWindow(QMainWindow *window)
+{
+    Q_D(DockContainer);
+    if (!window || window == d->mainWindow)
+        return;
+    d->mainWindow = window;
+    if (!d->statusBar) {
+        d->statusBar = new DockStatusBar;
+    }
+    d->statusBar->setPanel(d->bottomPanelWidget ? d->bottomPanelWidget->panel() : nullptr);
+    window->setStatusBar(d->statusBar);
+}
+
+void DockContainer::setPanelCollapsible(bool collapsible)
+{
+    Q_D(DockContainer);
+    for (int i = 0; i < d->outerSplitter->count(); ++i) {
+        if (i != 1)
+            d->outerSplitter->setCollapsible(i, collapsible);
+    }
+    for (int i = 0; i < d->innerSplitter->count(); ++i)
+        d->innerSplitter->setCollapsible(i, collapsible);
+}
+
+void DockContainer::setAllDockViewVisible(bool visible)
+{
+    Q_D(DockContainer);
+    for (const DockPanelWidget *panelWidget :
+         {d->leftPanelWidget.data(), d->bottomPanelWidget.data(), d->rightPanelWidget.data()}) {
+        if (panelWidget && panelWidget->stackedWidget())
+            panelWidget->stackedWidget()->setVisible(visible);
+    }
+}
+
+void DockContainer::updateState()
+{
+    Q_D(DockContainer);
+    d->updateStatusBar();
+}
+
+QByteArray DockContainer::saveState() const
+{
+    Q_D(const DockContainer);
+    return DockState{d->outerSplitter->saveState(), d->leftWidth, d->bottomHeight, d->rightWidth}
+        .toBytes();
+}
+
+void DockContainer::restoreState(const QByteArray &state)
+{
+    Q_D(DockContainer);
+    const std::optional<DockState> saved =
+        DockState::fromBytes(state, d->outerSplitter->saveState());
+    if (!saved)
+        return;
+    d->arranged = true;
+    d->outerSplitter->restoreState(state);
+    const QList<int> sizes = d->outerSplitter->sizes();
+    if (sizes.value(0) == 0 && d->leftPanelWidget)
+        d->leftPanelWidget->setMinimized(true);
+    if (sizes.value(2) == 0 && d->rightPanelWidget)
+        d->rightPanelWidget->setMinimized(true);
+    d->leftWidth = saved->leftWidth;
+    d->bottomHeight = saved->bottomHeight;
+    d->rightWidth = saved->rightWidth;
+    QTimer::singleShot(0, this, [d] { d->updateStatusBar(); });
+}
+
+void DockContainer::showEvent(QShowEvent *event)
+{
+    Q_D(DockContainer);
+    QFrame::showEvent(event);
+    if (!d->arranged)
+        d->arrange();
+    d->arranged = true;
+}
+
+bool DockContainer::eventFilter(QObject *watched, QEvent *event)
+{
+    Q_D(DockContainer);
+    if (event->type() == QEvent::Move
+        && (watched == d->centreWidget
+            || (d->bottomPanelWidget && watched == d->bottomPanelWidget->stackedWidget())))
+        d->updateStatusBar();
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace Norvane
