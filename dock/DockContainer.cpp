@@ -82,7 +82,7 @@ void DockContainerPrivate::arrange()
         const bool seen = !pane->isHidden() && !(stack && stack->count() == 0);
         parts.append(seen ? pane->sizePolicy().horizontalStretch() : 0);
     }
-    const int sum = std::accumulate(parts.cbegin(), parts.cend(), 0);
+    const int sum = qMax(1, std::accumulate(parts.cbegin(), parts.cend(), 0));
     for (int &part : parts)
         part = outerSplitter->width() * part / sum;
     outerSplitter->setSizes(parts);

@@ -88,7 +88,7 @@ DockPanel::DockPanel(DockPanelPrivate &dd, QWidget *parent)
     if (d->orientation == Qt::Horizontal) {
         addSeparator();
         // Whoever places the bar by hand asks for its height before any layout has set it.
-        resize(sizeHint());
+        resize(DockPanel::sizeHint());
     }
 }
 
@@ -171,7 +171,7 @@ Qt::Orientation DockPanel::orientation() const
 
 QSize DockPanel::sizeHint() const
 {
-    return minimumSizeHint();
+    return DockPanel::minimumSizeHint();
 }
 
 QSize DockPanel::minimumSizeHint() const
