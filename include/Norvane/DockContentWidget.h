@@ -11,8 +11,6 @@
 
 namespace Norvane {
 
-Q_NAMESPACE_EXPORT(NORVANE_EXPORT)
-
 //! Which tabs of a section are to be closed, seen from one of them.
 enum CloseMode {
     CloseCurrent,          //!< That tab: by its button, a middle click or the menu.
@@ -21,7 +19,6 @@ enum CloseMode {
     CloseAllExceptCurrent, //!< All others.
     CloseAll               //!< All.
 };
-Q_ENUM_NS(CloseMode)
 
 class DockContentWidgetPrivate;
 

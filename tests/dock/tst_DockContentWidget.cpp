@@ -45,6 +45,7 @@ private Q_SLOTS:
     void hidesAndDisablesSections();
     void hasBarsOfTheSheetsHeight();
     void asksForThePlaceOfItsTabs();
+    void tellsTheModeAsAMetaType();
     void emitsNothingWhenItDies();
     void agreesWithAModel();
 };
@@ -561,6 +562,20 @@ void tst_DockContentWidget::asksForThePlaceOfItsTabs()
     QTRY_VERIFY(host.content->sizeHint().width() >= 333 + 6);
     QVERIFY(host.content->sizeHint().height() >= 222 + 2 * 26);
     QVERIFY(host.content->minimumSizeHint().height() >= 222 + 2 * 26);
+}
+
+void tst_DockContentWidget::tellsTheModeAsAMetaType()
+{
+    const Host host;
+    QSignalSpy spy(host.content, &DockContentWidget::signalTabCloseRequested);
+    Q_EMIT host.content->signalTabCloseRequested(CloseAllRight, 1, 2);
+    QCOMPARE(spy.constFirst().constFirst().typeName(), "Norvane::CloseMode");
+    QCOMPARE(spy.constFirst().constFirst().value<CloseMode>(), CloseAllRight);
+    QCOMPARE(int(CloseCurrent), 0);
+    QCOMPARE(int(CloseAllLeft), 1);
+    QCOMPARE(int(CloseAllRight), 2);
+    QCOMPARE(int(CloseAllExceptCurrent), 3);
+    QCOMPARE(int(CloseAll), 4);
 }
 
 void tst_DockContentWidget::emitsNothingWhenItDies()
