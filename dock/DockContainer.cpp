@@ -19,6 +19,30 @@
 
 namespace Norvane {
 
+namespace {
+
+// Gives the panes their shares, whatever they asked for before they had their style and content.
+void arrange(QSplitter *splitter)
+{
+    const bool across = splitter->orientation() == Qt::Horizontal;
+    QList<int> parts;
+    for (int i = 0; i < splitter->count(); ++i) {
+        const QWidget *pane = splitter->widget(i);
+        const auto *stack = qobject_cast<const QStackedWidget *>(pane);
+        const bool seen = !pane->isHidden() && !(stack && stack->count() == 0);
+        const QSizePolicy policy = pane->sizePolicy();
+        parts << (seen ? (across ? policy.horizontalStretch() : policy.verticalStretch()) : 0);
+    }
+    const int sum = qMax(1, std::accumulate(parts.cbegin(), parts.cend(), 0));
+    const int room = across ? splitter->width() : splitter->height();
+    // Beside one part in fifty every pane has the size that it needs at least.
+    for (int &part : parts)
+        part = part > 0 ? qMax(1, room * part / sum) : 0;
+    splitter->setSizes(parts);
+}
+
+} // namespace
+
 DockContainerPrivate::DockContainerPrivate()
     : outerSplitter(new QSplitter(Qt::Horizontal))
     , innerSplitter(new QSplitter(Qt::Vertical))
@@ -71,21 +95,6 @@ void DockContainerPrivate::build()
     bottomPanelWidget->stackedWidget()->installEventFilter(q);
     // A window that only gets wider moves the content and not the bottom pane in it.
     centreWidget->installEventFilter(q);
-}
-
-void DockContainerPrivate::arrange()
-{
-    QList<int> parts;
-    for (int i = 0; i < outerSplitter->count(); ++i) {
-        const QWidget *pane = outerSplitter->widget(i);
-        const auto *stack = qobject_cast<const QStackedWidget *>(pane);
-        const bool seen = !pane->isHidden() && !(stack && stack->count() == 0);
-        parts.append(seen ? pane->sizePolicy().horizontalStretch() : 0);
-    }
-    const int sum = qMax(1, std::accumulate(parts.cbegin(), parts.cend(), 0));
-    for (int &part : parts)
-        part = outerSplitter->width() * part / sum;
-    outerSplitter->setSizes(parts);
 }
 
 void DockContainerPrivate::onOuterMoved()
@@ -287,7 +296,7 @@ void DockContainer::restoreState(const QByteArray &state)
         DockState::fromBytes(state, d->outerSplitter->saveState());
     if (!saved)
         return;
-    d->arranged = true;
+    d->restored = true;
     d->outerSplitter->restoreState(state);
     const QList<int> sizes = d->outerSplitter->sizes();
     if (sizes.value(0) == 0 && d->leftPanelWidget)
@@ -304,9 +313,13 @@ void DockContainer::showEvent(QShowEvent *event)
 {
     Q_D(DockContainer);
     QFrame::showEvent(event);
-    if (!d->arranged)
-        d->arrange();
-    d->arranged = true;
+    if (d->wasShown)
+        return;
+    d->wasShown = true;
+    if (!d->restored)
+        arrange(d->outerSplitter);
+    if (!d->contentWidget->isHidden())
+        arrange(d->innerSplitter);
 }
 
 bool DockContainer::eventFilter(QObject *watched, QEvent *event)

@@ -23,8 +23,6 @@ public:
     virtual ~DockContainerPrivate();
 
     void build();
-    //! Gives the panes their shares, whatever they asked for before they had their style.
-    void arrange();
     void onOuterMoved();
     void onInnerMoved();
     void minimizeSide(int pane, qint32 *width, bool minimized);
@@ -46,7 +44,8 @@ public:
     qint32 hiddenContentHeight = 0;
     DockContainer *q_ptr = nullptr;
     QWidget *centreWidget;
-    bool arranged = false;
+    bool wasShown = false;
+    bool restored = false;
 };
 
 } // namespace Norvane

@@ -4,29 +4,34 @@
 #pragma once
 
 #include <QtCore/QList>
-#include <QtWidgets/QTabWidget>
+#include <QtCore/QObject>
 
 #include <memory>
+
+namespace Norvane {
+class DockContentWidget;
+}
 
 namespace Workbench {
 
 class Document;
 
 /*!
-    The open documents, one tab each. It knows nothing of dialogs: who connects to
-    tabCloseRequested() decides whether a document may go.
+    The open documents, one tab each, with a section for the texts and one for the pictures. It
+   knows nothing of dialogs: who connects to closeRequested() decides whether documents may go.
 */
-class DocumentTabs : public QTabWidget
+class DocumentTabs : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit DocumentTabs(QWidget *parent = nullptr);
+    explicit DocumentTabs(Norvane::DockContentWidget *content);
 
+    //! In the order in which they were opened.
     QList<Document *> documents() const;
-    Document *document(int index) const;
     //! Null if none is open.
     Document *currentDocument() const;
+    void setCurrentDocument(Document *document);
     //! The document of the file at \a path, whatever way the path is written; null if none.
     Document *find(const QString &path) const;
 
@@ -37,12 +42,16 @@ public:
 
 Q_SIGNALS:
     void currentDocumentChanged(Workbench::Document *document);
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
+    void closeRequested(const QList<Workbench::Document *> &documents);
 
 private:
     void showTitle(Document *document);
+    void updateCurrent();
+    void request(int mode, int section, int index);
+
+    Norvane::DockContentWidget *m_content;
+    QList<Document *> m_documents;
+    Document *m_current = nullptr;
 };
 
 } // namespace Workbench

@@ -10,8 +10,15 @@
 #include "files/RecentFiles.h"
 #include "ribbon/WorkbenchRibbon.h"
 #include "text/TextOptions.h"
+#include "views/Panels.h"
 
+#include <Norvane/DockContainer.h>
+#include <Norvane/DockContentWidget.h>
+
+#include <QtCore/QFile>
 #include <QtCore/QMimeData>
+#include <QtCore/QSettings>
+#include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDropEvent>
@@ -36,9 +43,12 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_textOptions(new TextOptions(this))
     , m_recent(new RecentFiles(this))
-    , m_tabs(new DocumentTabs)
+    , m_docks(new Norvane::DockContainer)
+    , m_tabs(new DocumentTabs(m_docks->contentWidget()))
     , m_files(new FileCommands(m_tabs, m_recent, m_textOptions, this))
     , m_ribbon(new WorkbenchRibbon(m_files, m_recent, m_textOptions))
+    , m_panels(new Panels(m_docks, m_tabs, m_files))
+    , m_message(new QLabel)
     , m_summary(new QLabel)
 {
     auto *content = new QWidget;
@@ -46,9 +56,16 @@ MainWindow::MainWindow(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_ribbon);
-    layout->addWidget(m_tabs, 1);
+    layout->addWidget(m_docks, 1);
     setCentralWidget(content);
-    statusBar()->addPermanentWidget(m_summary);
+    m_docks->setupMainWindow(this);
+    QFile frameSheet(QStringLiteral(":/norvane/norvanelight.css"));
+    if (frameSheet.open(QIODevice::ReadOnly))
+        statusBar()->setStyleSheet(QString::fromUtf8(frameSheet.readAll()));
+    for (QLabel *label : {m_message, m_summary}) {
+        label->setContentsMargins(6, 0, 6, 0);
+        statusBar()->addPermanentWidget(label);
+    }
     setAcceptDrops(true);
     resize(1024, 700);
 
@@ -56,14 +73,15 @@ MainWindow::MainWindow(QWidget *parent)
     addActions(m_ribbon->commands());
 
     connect(m_tabs, &DocumentTabs::currentDocumentChanged, this, &MainWindow::setDocument);
-    connect(m_tabs, &QTabWidget::tabCloseRequested, this,
-            [this](int index) { m_files->close(m_tabs->document(index)); });
-    connect(m_files, &FileCommands::message, this,
-            [this](const QString &text) { statusBar()->showMessage(text, 8000); });
+    connect(m_tabs, &DocumentTabs::closeRequested, m_files,
+            qOverload<const QList<Document *> &>(&FileCommands::close));
+    connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(m_ribbon, &WorkbenchRibbon::findInAllWanted, m_panels, &Panels::startFinding);
     connect(m_ribbon, &WorkbenchRibbon::fullScreenWanted, this, &MainWindow::setFullScreen);
     connect(m_ribbon, &WorkbenchRibbon::helpWanted, this,
             [this] { HelpDialog(m_ribbon->commands(), this).exec(); });
     setDocument(nullptr);
+    restoreLayout();
 }
 
 MainWindow::~MainWindow()
@@ -79,6 +97,7 @@ void MainWindow::open(const QStringList &paths)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    saveLayout();
     event->setAccepted(m_files->closeAll());
 }
 
@@ -111,6 +130,7 @@ void MainWindow::setDocument(Document *document)
     if (m_document)
         connect(m_document, &Document::changed, this, &MainWindow::showDocument);
     m_ribbon->setDocument(document);
+    m_panels->setDocument(document);
     showDocument();
 }
 
@@ -126,6 +146,35 @@ void MainWindow::showDocument()
 void MainWindow::setFullScreen(bool fullScreen)
 {
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, fullScreen));
+}
+
+// The status bar's own messages would hide the panel's buttons in it.
+void MainWindow::showMessage(const QString &text)
+{
+    m_message->setText(text);
+    QTimer::singleShot(8000, m_message, [this, text] {
+        if (m_message->text() == text)
+            m_message->clear();
+    });
+}
+
+void MainWindow::resetLayout()
+{
+    QSettings().remove(QStringLiteral("layout"));
+}
+
+void MainWindow::restoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("layout/window")).toByteArray());
+    m_docks->restoreState(settings.value(QStringLiteral("layout/docks")).toByteArray());
+}
+
+void MainWindow::saveLayout() const
+{
+    QSettings settings;
+    settings.setValue(QStringLiteral("layout/window"), saveGeometry());
+    settings.setValue(QStringLiteral("layout/docks"), m_docks->saveState());
 }
 
 } // namespace Workbench

@@ -7,17 +7,23 @@
 
 class QLabel;
 
+namespace Norvane {
+class DockContainer;
+}
+
 namespace Workbench {
 
 class Document;
 class DocumentTabs;
 class FileCommands;
+class Panels;
 class RecentFiles;
 class TextOptions;
 class WorkbenchRibbon;
 
 /*!
-    The window: the ribbon over the documents, and the status bar under them.
+    The window: the ribbon over the documents, panels around them, and the status bar below. Where
+   its panels were when it was closed it remembers for the next time.
 */
 class MainWindow : public QMainWindow
 {
@@ -26,6 +32,9 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
+
+    //! Forgets where panels and window were.
+    static void resetLayout();
 
     //! Files and folders.
     void open(const QStringList &paths);
@@ -40,12 +49,18 @@ private:
     void setDocument(Document *document);
     void showDocument();
     void setFullScreen(bool fullScreen);
+    void showMessage(const QString &text);
+    void restoreLayout();
+    void saveLayout() const;
 
     TextOptions *m_textOptions;
     RecentFiles *m_recent;
+    Norvane::DockContainer *m_docks;
     DocumentTabs *m_tabs;
     FileCommands *m_files;
     WorkbenchRibbon *m_ribbon;
+    Panels *m_panels;
+    QLabel *m_message;
     QLabel *m_summary;
     Document *m_document = nullptr;
 };

@@ -71,7 +71,10 @@ int main(int argc, char **argv)
             "Go through the features without a hand on the mouse, on copies of the sample "
             "files, and leave a picture of every scene in <folder>."),
         u"folder"_s);
-    parser.addOptions({samples, tour});
+    const QCommandLineOption resetLayout(
+        u"reset-layout"_s,
+        QCoreApplication::translate("main", "Forget where the panels and the window were."));
+    parser.addOptions({samples, tour, resetLayout});
     parser.addPositionalArgument(u"files"_s,
                                  QCoreApplication::translate("main", "Files and folders to open."),
                                  u"[files...]"_s);
@@ -80,6 +83,8 @@ int main(int argc, char **argv)
     if (parser.isSet(tour))
         return runTour(parser.value(tour), parser.positionalArguments());
 
+    if (parser.isSet(resetLayout))
+        Workbench::MainWindow::resetLayout();
     QStringList paths = parser.positionalArguments();
     if (parser.isSet(samples))
         paths << sampleFolder();

@@ -14,6 +14,8 @@
 #include "text/TextDocument.h"
 #include "text/TextEditor.h"
 
+#include <Norvane/DockContentWidget.h>
+
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtTest/QTest>
@@ -23,6 +25,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
 #include <functional>
@@ -39,9 +42,15 @@ public:
         activateWindow();
         opened = QTest::qWaitForWindowActive(this);
         open(paths);
+        // The first document makes its place among the panels.
+        QCoreApplication::processEvents();
     }
 
     Workbench::DocumentTabs *tabs() const { return findChild<Workbench::DocumentTabs *>(); }
+    Norvane::DockContentWidget *content() const
+    {
+        return findChild<Norvane::DockContentWidget *>();
+    }
     Workbench::WorkbenchRibbon *ribbon() const { return findChild<Workbench::WorkbenchRibbon *>(); }
     Workbench::Document *document() const { return tabs()->currentDocument(); }
     Workbench::TextDocument *text() const
@@ -91,11 +100,42 @@ public:
     }
     void clickTab(const QString &file) const
     {
-        for (int i = 0; i < tabs()->count(); ++i) {
-            if (tabs()->document(i)->title() == file)
-                Gui::click(tabs()->tabBar(), tabs()->tabBar()->tabRect(i).center());
+        const QList<Workbench::Document *> documents = tabs()->documents();
+        for (Workbench::Document *document : documents) {
+            if (document->title() != file)
+                continue;
+            const int section = content()->sectionOf(document);
+            if (section != content()->currentSection()) {
+                auto *sections = content()->findChild<QTabBar *>(QStringLiteral("dockSectionBar"));
+                Gui::click(sections, sections->tabRect(section).center());
+            }
+            Gui::click(tabBar(document), tabRect(document).topLeft() + QPoint(12, 12));
         }
     }
+    static QTabBar *tabBar(const Workbench::Document *document)
+    {
+        // The document lies in the stack of its section.
+        return static_cast<QTabWidget *>(document->parentWidget()->parentWidget())->tabBar();
+    }
+    //! Of the document that was opened as number \a index.
+    void clickCloseButton(int index) const
+    {
+        const QRect tab = tabRect(tabs()->documents().at(index));
+        Gui::click(tabBar(tabs()->documents().at(index)),
+                   QPoint(tab.right() - 11, tab.center().y()));
+    }
+    QString tabText(int index) const
+    {
+        Workbench::Document *document = tabs()->documents().at(index);
+        return content()->tabText(content()->sectionOf(document), content()->tabOf(document));
+    }
+    QString tabToolTip(int index) const
+    {
+        Workbench::Document *document = tabs()->documents().at(index);
+        return content()->tabToolTip(content()->sectionOf(document), content()->tabOf(document));
+    }
+    void setCurrent(int index) const { tabs()->setCurrentDocument(tabs()->documents().at(index)); }
+    int currentIndex() const { return int(tabs()->documents().indexOf(document())); }
 
     //! The visible button of the command; null if its page is not in front.
     QToolButton *button(const QString &command) const
@@ -185,6 +225,11 @@ public:
     bool opened = false;
 
 private:
+    QRect tabRect(Workbench::Document *document) const
+    {
+        return tabBar(document)->tabRect(content()->tabOf(document));
+    }
+
     QList<QAbstractButton *> ribbonTabs() const
     {
         QList<QAbstractButton *> tabs;

@@ -76,12 +76,12 @@ void tst_FileCommands::opensEachKindOfFile()
                                   files.writeQuarters(QStringLiteral("b.png"), QSize(8, 8)),
                                   files.write(QStringLiteral("no suffix"), "c")});
     QVERIFY(window.opened);
-    QCOMPARE(window.tabs()->count(), 3);
-    QCOMPARE(window.tabs()->document(0)->kind(), Document::Kind::Text);
-    QCOMPARE(window.tabs()->document(1)->kind(), Document::Kind::Picture);
-    QCOMPARE(window.tabs()->document(2)->kind(), Document::Kind::Text);
-    QCOMPARE(window.tabs()->tabText(1), QStringLiteral("b.png"));
-    QCOMPARE(window.tabs()->currentIndex(), 2);
+    QCOMPARE(window.tabs()->documents().size(), 3);
+    QCOMPARE(window.tabs()->documents().at(0)->kind(), Document::Kind::Text);
+    QCOMPARE(window.tabs()->documents().at(1)->kind(), Document::Kind::Picture);
+    QCOMPARE(window.tabs()->documents().at(2)->kind(), Document::Kind::Text);
+    QCOMPARE(window.tabText(1), QStringLiteral("b.png"));
+    QCOMPARE(window.currentIndex(), 2);
     QVERIFY(window.editor()->hasFocus());
 }
 
@@ -94,10 +94,10 @@ void tst_FileCommands::opensAFileOnce()
     WorkbenchWindow window({a, b});
     for (const QString &path :
          {a, files.folder() + QStringLiteral("/./a.txt"), files.path(QStringLiteral("link.txt"))}) {
-        window.tabs()->setCurrentIndex(1);
+        window.setCurrent(1);
         window.open({path});
-        QCOMPARE(window.tabs()->count(), 2);
-        QCOMPARE(window.tabs()->currentIndex(), 0);
+        QCOMPARE(window.tabs()->documents().size(), 2);
+        QCOMPARE(window.currentIndex(), 0);
     }
     // Of two files that are gone, neither is the other.
     QVERIFY(QFile::remove(a));
@@ -139,7 +139,7 @@ void tst_FileCommands::saysWhatCannotBeOpened()
              qPrintable(box.information));
     QVERIFY(box.information.size() > files.path(name).size() + 10);
     QVERIFY(box.plain);
-    QCOMPARE(window.tabs()->count(), 0);
+    QCOMPARE(window.tabs()->documents().size(), 0);
 }
 
 void tst_FileCommands::saysAllThatCannotBeOpened()
@@ -161,7 +161,7 @@ void tst_FileCommands::opensTheRestWhenOneFails()
     const WorkbenchWindow window(
         {files.path(QStringLiteral("none.txt")), files.write(QStringLiteral("a.txt"), "a")});
     QVERIFY(box.answered());
-    QCOMPARE(window.tabs()->count(), 1);
+    QCOMPARE(window.tabs()->documents().size(), 1);
 }
 
 void tst_FileCommands::opensAFolder()
@@ -173,10 +173,10 @@ void tst_FileCommands::opensAFolder()
     QVERIFY(QDir(files.folder()).mkdir(QStringLiteral("sub")));
     files.write(QStringLiteral("sub/d.txt"), "d");
     const WorkbenchWindow window({files.folder()});
-    QCOMPARE(window.tabs()->count(), 2);
-    QCOMPARE(window.tabs()->tabText(0), QStringLiteral("a.png"));
-    QCOMPARE(window.tabs()->tabText(1), QStringLiteral("b.txt"));
-    QCOMPARE(window.tabs()->currentIndex(), 0);
+    QCOMPARE(window.tabs()->documents().size(), 2);
+    QCOMPARE(window.tabText(0), QStringLiteral("a.png"));
+    QCOMPARE(window.tabText(1), QStringLiteral("b.txt"));
+    QCOMPARE(window.currentIndex(), 0);
 }
 
 void tst_FileCommands::opensNoMoreOfAFolderThanItMay()
@@ -185,7 +185,7 @@ void tst_FileCommands::opensNoMoreOfAFolderThanItMay()
     for (int i = 0; i < FileCommands::mostOfFolder + 5; ++i)
         files.write(QStringLiteral("%1.txt").arg(i, 3, 10, QChar(u'0')), "x");
     const WorkbenchWindow window({files.folder()});
-    QCOMPARE(window.tabs()->count(), FileCommands::mostOfFolder);
+    QCOMPARE(window.tabs()->documents().size(), FileCommands::mostOfFolder);
 }
 
 void tst_FileCommands::opensAnEmptyFolder()
@@ -194,7 +194,7 @@ void tst_FileCommands::opensAnEmptyFolder()
     WorkbenchWindow window;
     QSignalSpy message(commands(window), &FileCommands::message);
     window.open({files.folder()});
-    QCOMPARE(window.tabs()->count(), 0);
+    QCOMPARE(window.tabs()->documents().size(), 0);
     QCOMPARE(message.count(), 1);
 }
 
@@ -217,7 +217,7 @@ void tst_FileCommands::savesThroughTheDialog()
     window.clickButton(QStringLiteral("Save As"));
     QVERIFY(answer.answered);
     QCOMPARE(files.read(QStringLiteral("b.txt")), QByteArray("a\r\n"));
-    QCOMPARE(window.tabs()->tabText(0), QStringLiteral("b.txt"));
+    QCOMPARE(window.tabText(0), QStringLiteral("b.txt"));
     QVERIFY(window.windowTitle().startsWith(QStringLiteral("b.txt")));
 }
 
@@ -282,7 +282,7 @@ void tst_FileCommands::savesAll()
                                   files.writeQuarters(QStringLiteral("b.png"), QSize(8, 4)),
                                   files.write(QStringLiteral("c.txt"), "c")});
     QTest::keyClicks(window.editor(), QStringLiteral("x"));
-    window.tabs()->setCurrentIndex(1);
+    window.setCurrent(1);
     window.picture()->turn(PictureTurnCommand::Turn::Left);
     window.pick(QStringLiteral("Save"), QStringLiteral("Save All"));
     QCOMPARE(files.read(QStringLiteral("a.txt")), QByteArray("a"));
@@ -298,7 +298,7 @@ void tst_FileCommands::closesWhatIsSavedWithoutAsking()
     const Files files;
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "a")});
     window.clickButton(QStringLiteral("Close"));
-    QCOMPARE(window.tabs()->count(), 0);
+    QCOMPARE(window.tabs()->documents().size(), 0);
     QCOMPARE(window.pages(), (QStringList{QStringLiteral("Home"), QStringLiteral("View")}));
 }
 
@@ -321,11 +321,11 @@ void tst_FileCommands::asksBeforeItClosesWhatIsNotSaved()
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "a")});
     QTest::keyClicks(window.editor(), QStringLiteral("x"));
     BoxAnswer box(button);
-    Gui::click(window.tabs()->tabBar()->tabButton(0, QTabBar::RightSide));
+    window.clickCloseButton(0);
     QVERIFY(box.answered());
     QVERIFY(box.text.contains(QStringLiteral("a.txt")));
     QVERIFY(box.plain);
-    QCOMPARE(window.tabs()->count(), closes ? 0 : 1);
+    QCOMPARE(window.tabs()->documents().size(), closes ? 0 : 1);
     QCOMPARE(files.read(QStringLiteral("a.txt")), content);
 }
 
@@ -340,7 +340,7 @@ void tst_FileCommands::keepsADocumentThatCannotBeSaved()
     QVERIFY(save.answered());
     QVERIFY(refusal.answered());
     QVERIFY(refusal.information.contains(QStringLiteral("Latin-1")));
-    QCOMPARE(window.tabs()->count(), 1);
+    QCOMPARE(window.tabs()->documents().size(), 1);
 }
 
 void tst_FileCommands::closesNothingWhenOneIsKept()
@@ -349,15 +349,15 @@ void tst_FileCommands::closesNothingWhenOneIsKept()
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "a"),
                                   files.write(QStringLiteral("b.txt"), "b"),
                                   files.write(QStringLiteral("c.txt"), "c")});
-    window.tabs()->setCurrentIndex(1);
+    window.setCurrent(1);
     QTest::keyClicks(window.editor(), QStringLiteral("x"));
-    window.tabs()->setCurrentIndex(0);
+    window.setCurrent(0);
     BoxAnswer box(QMessageBox::Cancel);
     QVERIFY(!commands(window)->closeAll());
     QVERIFY(box.answered());
-    QCOMPARE(window.tabs()->count(), 3);
+    QCOMPARE(window.tabs()->documents().size(), 3);
     // What is asked about is in front.
-    QCOMPARE(window.tabs()->currentIndex(), 1);
+    QCOMPARE(window.currentIndex(), 1);
 }
 
 void tst_FileCommands::closesOthers()
@@ -366,9 +366,9 @@ void tst_FileCommands::closesOthers()
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "a"),
                                   files.write(QStringLiteral("b.txt"), "b"),
                                   files.write(QStringLiteral("c.txt"), "c")});
-    window.tabs()->setCurrentIndex(1);
+    window.setCurrent(1);
     QVERIFY(commands(window)->closeOthers(window.document()));
-    QCOMPARE(window.tabs()->count(), 1);
+    QCOMPARE(window.tabs()->documents().size(), 1);
     QCOMPARE(window.document()->title(), QStringLiteral("b.txt"));
 }
 

@@ -44,11 +44,11 @@ void tst_MainWindow::showsTheDocumentInFront()
         return texts.join(u' ');
     };
     QVERIFY(summary().contains(QStringLiteral("40 × 20")));
-    window.tabs()->setCurrentIndex(0);
+    window.setCurrent(0);
     QVERIFY(window.windowTitle().startsWith(QStringLiteral("a & b.txt")));
-    QCOMPARE(window.tabs()->tabText(0), QStringLiteral("a && b.txt"));
+    QCOMPARE(window.tabText(0), QStringLiteral("a && b.txt"));
     QVERIFY(summary().contains(QStringLiteral("UTF-8")));
-    QCOMPARE(window.tabs()->tabToolTip(0),
+    QCOMPARE(window.tabToolTip(0),
              QDir::toNativeSeparators(files.path(QStringLiteral("a & b.txt"))));
 }
 
@@ -74,7 +74,7 @@ void tst_MainWindow::shortcutsWorkWhicheverPageIsInFront()
     }
     window.clickPage(QStringLiteral("View"));
     window.key(Qt::Key_W, Qt::ControlModifier);
-    QTRY_COMPARE(window.tabs()->count(), 0);
+    QTRY_COMPARE(window.tabs()->documents().size(), 0);
 }
 
 void tst_MainWindow::closesWithoutAskingWhenAllIsSaved()
@@ -103,14 +103,14 @@ void tst_MainWindow::asksBeforeItClosesWithUnsavedDocuments()
     const Files files;
     WorkbenchWindow window(
         {files.write(QStringLiteral("a.txt"), "a"), files.write(QStringLiteral("b.txt"), "b")});
-    window.tabs()->setCurrentIndex(0);
+    window.setCurrent(0);
     QTest::keyClicks(window.editor(), QStringLiteral("x"));
     BoxAnswer box(button);
     QCOMPARE(window.close(), closes);
     QVERIFY(box.answered());
     QVERIFY(box.text.contains(QStringLiteral("a.txt")));
     QCOMPARE(window.isVisible(), !closes);
-    QCOMPARE(window.tabs()->count(), closes ? 0 : 2);
+    QCOMPARE(window.tabs()->documents().size(), closes ? 0 : 2);
     QCOMPARE(files.read(QStringLiteral("a.txt")), content);
 }
 
@@ -120,7 +120,7 @@ void tst_MainWindow::staysWhenOneDocumentIsKept()
     WorkbenchWindow window(
         {files.write(QStringLiteral("a.txt"), "a"), files.write(QStringLiteral("b.txt"), "b")});
     for (int i : {0, 1}) {
-        window.tabs()->setCurrentIndex(i);
+        window.setCurrent(i);
         QTest::keyClicks(window.editor(), QStringLiteral("x"));
     }
     QStringList asked;
@@ -135,7 +135,7 @@ void tst_MainWindow::staysWhenOneDocumentIsKept()
     QVERIFY(!window.close());
     QCOMPARE(asked.size(), 2);
     QVERIFY(window.isVisible());
-    QCOMPARE(window.tabs()->count(), 2);
+    QCOMPARE(window.tabs()->documents().size(), 2);
     const QList<Document *> documents = window.tabs()->documents();
     for (const Document *document : documents)
         QVERIFY(document->isModified());
@@ -157,7 +157,7 @@ void tst_MainWindow::opensDroppedFiles()
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(files.write(QStringLiteral("a.txt"), "a")),
                   QUrl::fromLocalFile(files.writeQuarters(QStringLiteral("b.png"), QSize(8, 8)))});
-    const QPoint position = window.tabs()->mapTo(&window, QPoint(200, 200));
+    const QPoint position = window.content()->mapTo(&window, QPoint(200, 200));
     QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(window.windowHandle(), &enter);
     QVERIFY(enter.isAccepted());
@@ -170,7 +170,7 @@ void tst_MainWindow::opensDroppedFiles()
     drop.acceptProposedAction();
     QCoreApplication::sendEvent(window.windowHandle(), &drop);
     QVERIFY(drop.isAccepted());
-    QTRY_COMPARE(window.tabs()->count(), onText ? 3 : 2);
+    QTRY_COMPARE(window.tabs()->documents().size(), onText ? 3 : 2);
     QCOMPARE(window.document()->title(), QStringLiteral("b.png"));
     const QList<Document *> documents = window.tabs()->documents();
     for (const Document *document : documents)
@@ -196,7 +196,7 @@ void tst_MainWindow::goesWithUnsavedDocuments()
     window->picture()->turn(PictureTurnCommand::Turn::Left);
     window->picture()->turn(PictureTurnCommand::Turn::Left);
     window->picture()->undo();
-    window->tabs()->setCurrentIndex(0);
+    window->setCurrent(0);
     QTest::keyClicks(window->editor(), QStringLiteral("x"));
     window.reset();
     QCOMPARE(files.read(QStringLiteral("a.txt")), QByteArray("a"));

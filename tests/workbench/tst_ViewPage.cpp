@@ -62,7 +62,7 @@ void tst_ViewPage::zoomsByTheWheel()
                           Qt::ControlModifier);
     };
     for (int i = 0; i < 2; ++i) {
-        window.tabs()->setCurrentIndex(i);
+        window.setCurrent(i);
         turn(120);
         QTRY_COMPARE(window.document()->zoom(), 1.1);
         turn(-120);

@@ -94,7 +94,7 @@ void tst_WorkbenchRibbon::goesHomeWhenTheLastDocumentCloses()
     const Files files;
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "a")});
     window.clickPage(QStringLiteral("Text"));
-    Gui::click(window.tabs()->tabBar()->tabButton(0, QTabBar::RightSide));
+    window.clickCloseButton(0);
     QCOMPARE(window.pages(), plain);
     QCOMPARE(window.currentPage(), QStringLiteral("Home"));
     QVERIFY(window.button(QStringLiteral("Open")));
@@ -208,7 +208,7 @@ void tst_WorkbenchRibbon::opensTheMenuOfADelayedButtonWithTheRightButton()
             QCoreApplication::sendEvent(window.button(QStringLiteral("Close")), &event);
         },
         [](QMenu *menu) { WorkbenchWindow::pickEntry(menu, QStringLiteral("Close All")); });
-    QCOMPARE(window.tabs()->count(), 0);
+    QCOMPARE(window.tabs()->documents().size(), 0);
 }
 
 void tst_WorkbenchRibbon::opensNoMenuOfADelayedButtonWithTheLeftButton()
@@ -217,7 +217,7 @@ void tst_WorkbenchRibbon::opensNoMenuOfADelayedButtonWithTheLeftButton()
     const WorkbenchWindow window(samples(files));
     Gui::click(window.button(QStringLiteral("Close")), QPoint(20, 60));
     QVERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(window.tabs()->count(), 2);
+    QCOMPARE(window.tabs()->documents().size(), 2);
 }
 
 void tst_WorkbenchRibbon::closesOthersFromTheMenu()
@@ -228,7 +228,7 @@ void tst_WorkbenchRibbon::closesOthersFromTheMenu()
     QAction *closeOthers = window.command(QStringLiteral("Close Others"));
     QVERIFY(closeOthers && closeOthers->isEnabled());
     closeOthers->trigger();
-    QCOMPARE(window.tabs()->count(), 1);
+    QCOMPARE(window.tabs()->documents().size(), 1);
     QCOMPARE(window.document()->title(), QStringLiteral("b.txt"));
 }
 

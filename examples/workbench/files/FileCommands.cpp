@@ -122,7 +122,7 @@ bool FileCommands::closeAll()
 QString FileCommands::openFile(const QString &path)
 {
     if (Document *document = m_tabs->find(path)) {
-        m_tabs->setCurrentWidget(document);
+        m_tabs->setCurrentDocument(document);
         m_recent->add(document->path());
         return QString();
     }
@@ -154,7 +154,7 @@ void FileCommands::openFolder(const QString &path)
             first = m_tabs->currentDocument();
     }
     if (first)
-        m_tabs->setCurrentWidget(first);
+        m_tabs->setCurrentDocument(first);
     Q_EMIT message(tr("Opened from “%1”: %2 of %3 files")
                        .arg(QDir::toNativeSeparators(path))
                        .arg(opened)
@@ -176,7 +176,7 @@ bool FileCommands::mayClose(Document *document)
 {
     if (!document->isModified())
         return true;
-    m_tabs->setCurrentWidget(document);
+    m_tabs->setCurrentDocument(document);
     QMessageBox box(QMessageBox::Question, tr("Close"),
                     tr("Save the changes to “%1”?").arg(document->title()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);

@@ -49,6 +49,7 @@ public:
     bool close(Document *document);
     bool closeOthers(Document *document);
     bool closeAll();
+    bool close(const QList<Document *> &documents);
 
 Q_SIGNALS:
     //! Something went well that the user cannot see otherwise.
@@ -60,7 +61,6 @@ private:
     void openFolder(const QString &path);
     bool saveTo(Document *document, const QString &path);
     bool mayClose(Document *document);
-    bool close(const QList<Document *> &documents);
     void warn(const QString &title, const QString &text, const QString &reason);
 
     DocumentTabs *m_tabs;

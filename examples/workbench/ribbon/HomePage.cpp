@@ -129,7 +129,8 @@ void HomePage::addHistoryGroup()
 
 void HomePage::addFindGroup()
 {
-    Norvane::RibbonSubgroup *column = addColumn(addGroup(tr("Find")), columnHeight);
+    Norvane::RibbonGroup *group = addGroup(tr("Find"));
+    Norvane::RibbonSubgroup *column = addColumn(group, columnHeight);
     column->addWidget(m_findField);
 
     QAction *find =
@@ -152,8 +153,15 @@ void HomePage::addFindGroup()
     wholeWords->setCheckable(true);
     connect(wholeWords, &QAction::toggled, m_findField, &FindField::setWholeWords);
 
+    QAction *findInAll = addCommand({tr("Find in All"),
+                                     "find-all"_L1,
+                                     tr("Find in all open texts"),
+                                     {QKeySequence(u"Ctrl+Shift+F"_s)}});
+    connect(findInAll, &QAction::triggered, this, &HomePage::findInAllWanted);
+
     column->addActions({previous, next, matchCase, wholeWords});
-    m_findActions = {find, previous, next, matchCase, wholeWords};
+    group->addAction(findInAll);
+    m_findActions = {find, previous, next, matchCase, wholeWords, findInAll};
 }
 
 void HomePage::startFinding()

@@ -24,6 +24,7 @@ public:
 Q_SIGNALS:
     //! The user wants to type into a field of this page, which has to be in front.
     void wanted();
+    void findInAllWanted();
 
 protected:
     void refresh() override;

@@ -23,6 +23,7 @@ WorkbenchRibbon::WorkbenchRibbon(FileCommands *files, RecentFiles *recent, TextO
 {
     auto *home = new HomePage(files, recent);
     connect(home, &HomePage::wanted, this, [this, home] { setCurrentPage(home); });
+    connect(home, &HomePage::findInAllWanted, this, &WorkbenchRibbon::findInAllWanted);
     m_homePage = home;
     m_viewPage = new ViewPage(textOptions);
     connect(m_viewPage, &ViewPage::fullScreenWanted, this, &WorkbenchRibbon::fullScreenWanted);

@@ -42,6 +42,7 @@ public:
 Q_SIGNALS:
     void fullScreenWanted(bool fullScreen);
     void helpWanted();
+    void findInAllWanted();
 
 private:
     void addHelpButton();

@@ -36,6 +36,26 @@ TextDocument::TextDocument(TextOptions *options, QWidget *parent)
     connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &Document::changed);
 }
 
+const QTextDocument *TextDocument::content() const
+{
+    return m_editor->document();
+}
+
+QString TextDocument::selectedText() const
+{
+    return m_editor->textCursor().selectedText();
+}
+
+void TextDocument::select(int position, int length)
+{
+    QTextCursor cursor(m_editor->document());
+    const int last = m_editor->document()->characterCount() - 1;
+    cursor.setPosition(std::clamp(position, 0, last));
+    cursor.setPosition(std::clamp(position + length, 0, last), QTextCursor::KeepAnchor);
+    m_editor->setTextCursor(cursor);
+    m_editor->centerCursor();
+}
+
 bool TextDocument::isBinary() const
 {
     return m_binary;

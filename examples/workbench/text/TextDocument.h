@@ -30,6 +30,11 @@ class TextDocument : public Document
 public:
     explicit TextDocument(TextOptions *options, QWidget *parent = nullptr);
 
+    const QTextDocument *content() const;
+    QString selectedText() const;
+    //! Selects \a length characters from \a position and brings them into view.
+    void select(int position, int length);
+
     //! What read() refused holds bytes that are no text.
     bool isBinary() const;
     bool isReadOnly() const;

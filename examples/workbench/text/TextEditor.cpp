@@ -65,6 +65,8 @@ void TextEditor::applyOptions()
 {
     QFont zoomed = m_options->font();
     zoomed.setPointSizeF(std::max(1.0, zoomed.pointSizeF() * m_zoom));
+    // The sheet of the panels has a font for all text in them; the widget's own sheet comes first.
+    setStyleSheet(QStringLiteral("QPlainTextEdit { font-family: \"%1\"; }").arg(zoomed.family()));
     setFont(zoomed);
     setTabStopDistance(4 * QFontMetricsF(zoomed).horizontalAdvance(u' '));
     setLineWrapMode(m_options->wrap() ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);

@@ -11,16 +11,24 @@
 #include "text/TextDocument.h"
 #include "text/TextEditor.h"
 #include "tour/Input.h"
+#include "views/FindResultsView.h"
+
+#include <Norvane/DockContainer.h>
+#include <Norvane/DockContentWidget.h>
+#include <Norvane/DockPanelWidget.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeWidget>
 
 namespace Workbench {
 
@@ -57,6 +65,8 @@ Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
     openSamples();
     editText();
     find();
+    findInAll();
+    minimizePanels();
     convertText();
     zoom();
     editPicture();
@@ -96,15 +106,14 @@ void Tour::showPaths()
                 Input::press(box, Qt::Key_Escape);
         },
         [] { return !QApplication::activeModalWidget(); });
-    auto *tabs = m_window->findChild<DocumentTabs *>();
     m_player.add(
         u"closing them"_s,
-        [tabs] {
-            const QList<Document *> documents = tabs->documents();
+        [this] {
+            const QList<Document *> documents = tabs()->documents();
             for (Document *document : documents)
-                tabs->remove(document);
+                tabs()->remove(document);
         },
-        [tabs] { return tabs->count() == 0; });
+        [this] { return tabs()->documents().isEmpty(); });
 }
 
 void Tour::openSamples()
@@ -118,7 +127,7 @@ void Tour::openSamples()
                 QFile::copy(samples.filePath(file), copyOf(file));
             m_window->open({m_folder.path()});
         },
-        [this] { return m_window->findChild<DocumentTabs *>()->find(copyOf(u"About.txt"_s)); });
+        [this] { return tabs()->find(copyOf(u"About.txt"_s)); });
     addTabClick(u"About.txt"_s);
     m_player.add(
         u"pointing at a button"_s,
@@ -166,6 +175,47 @@ void Tour::find()
     m_player.addPicture(u"found"_s);
 }
 
+void Tour::findInAll()
+{
+    addButtonClick(u"Find in All"_s, [this] {
+        return m_window->findChild<QLineEdit *>(u"findAllField"_s)->hasFocus();
+    });
+    const auto results = [this] {
+        return m_window->findChild<FindResultsView *>()->findChild<QTreeWidget *>();
+    };
+    m_player.add(
+        u"finding in all texts"_s,
+        [this] {
+            Input::type(m_window, u"the"_s);
+            Input::press(m_window, Qt::Key_Return);
+        },
+        [results] { return results()->topLevelItemCount() > 3; });
+    m_player.addPicture(u"find-in-all"_s);
+    m_player.add(
+        u"going to a place that was found"_s,
+        [results] {
+            QTreeWidget *tree = results();
+            Input::click(tree->viewport(), tree->visualItemRect(tree->topLevelItem(1)).center());
+        },
+        [this] {
+            return document()->findChild<TextEditor *>()->textCursor().selectedText().toLower()
+                == u"the";
+        });
+}
+
+void Tour::minimizePanels()
+{
+    const auto panel = [this] {
+        return m_window->findChild<Norvane::DockContainer *>()->panelWidget(
+            Norvane::DockContainer::RightDockArea);
+    };
+    const auto click = [panel] { Input::click(panel()->panel()->findChild<QPushButton *>()); };
+    m_player.add(u"sending a panel to its bar"_s, click,
+                 [panel] { return panel()->isMinimized(); });
+    m_player.addPicture(u"minimized"_s);
+    m_player.add(u"bringing it back"_s, click, [panel] { return !panel()->isMinimized(); });
+}
+
 void Tour::convertText()
 {
     addTabClick(u"Menu.txt"_s);
@@ -209,6 +259,8 @@ void Tour::editPicture()
         [this] { return static_cast<PictureDocument *>(document())->canCrop(); });
     m_player.addPicture(u"selected"_s);
     addButtonClick(u"Crop to\nSelection"_s, [size] { return size() == QSize(360, 250); });
+    addButtonClick(u"Actual\nSize"_s,
+                   [this] { return !static_cast<PictureDocument *>(document())->isFitted(); });
     addButtonClick(u"Fit"_s,
                    [this] { return static_cast<PictureDocument *>(document())->isFitted(); });
     m_player.addPicture(u"cropped"_s);
@@ -220,8 +272,8 @@ void Tour::closeUnsaved()
     m_player.add(
         u"closing what is not saved"_s,
         [this] {
-            QWidget *close = tabBar()->tabButton(tabBar()->currentIndex(), QTabBar::RightSide);
-            Input::click(close);
+            const QRect tab = tabBar()->tabRect(tabBar()->currentIndex());
+            Input::click(tabBar(), QPoint(tab.right() - 11, tab.center().y()));
         },
         [box] { return box() != nullptr; });
     m_player.addPicture(u"close-asks"_s);
@@ -255,12 +307,22 @@ void Tour::addPageClick(const QString &title)
 
 void Tour::addTabClick(const QString &file)
 {
+    const auto content = [this] { return m_window->findChild<Norvane::DockContentWidget *>(); };
+    m_player.add(
+        u"going to the section of "_s + file,
+        [this, file, content] {
+            auto *sections = content()->findChild<QTabBar *>(u"dockSectionBar"_s);
+            const int section = content()->sectionOf(tabs()->find(copyOf(file)));
+            Input::click(sections, sections->tabRect(section).center());
+        },
+        [this, file, content] {
+            return content()->currentSection() == content()->sectionOf(tabs()->find(copyOf(file)));
+        });
     m_player.add(
         u"bringing "_s + file + u" to the front"_s,
-        [this, file] {
-            auto *tabs = m_window->findChild<DocumentTabs *>();
-            const int index = tabs->indexOf(tabs->find(copyOf(file)));
-            Input::click(tabBar(), tabBar()->tabRect(index).center());
+        [this, file, content] {
+            const int index = content()->tabOf(tabs()->find(copyOf(file)));
+            Input::click(tabBar(), tabBar()->tabRect(index).topLeft() + QPoint(12, 12));
         },
         [this, file] { return document()->title() == file; });
 }
@@ -306,14 +368,20 @@ QToolButton *Tour::button(const QString &command) const
     });
 }
 
+DocumentTabs *Tour::tabs() const
+{
+    return m_window->findChild<DocumentTabs *>();
+}
+
 QTabBar *Tour::tabBar() const
 {
-    return m_window->findChild<DocumentTabs *>()->tabBar();
+    // A document lies in the stack of its section.
+    return static_cast<QTabWidget *>(document()->parentWidget()->parentWidget())->tabBar();
 }
 
 Document *Tour::document() const
 {
-    return m_window->findChild<DocumentTabs *>()->currentDocument();
+    return tabs()->currentDocument();
 }
 
 QString Tour::copyOf(const QString &file) const

@@ -15,6 +15,7 @@ class QToolButton;
 namespace Workbench {
 
 class Document;
+class DocumentTabs;
 class MainWindow;
 
 /*!
@@ -41,6 +42,8 @@ private:
     void openSamples();
     void editText();
     void find();
+    void findInAll();
+    void minimizePanels();
     void convertText();
     void zoom();
     void editPicture();
@@ -55,6 +58,8 @@ private:
 
     QWidget *ribbonTab(const QString &title) const;
     QToolButton *button(const QString &command) const;
+    DocumentTabs *tabs() const;
+    //! The tab bar of the section in front.
     QTabBar *tabBar() const;
     Document *document() const;
     QString copyOf(const QString &file) const;
