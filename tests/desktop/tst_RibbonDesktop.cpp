@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Norvane contributors
 // SPDX-License-Identifier: MIT
 
+#include "RealMouse.h"
 #include "TestCase.h"
 
 #include <Norvane/RibbonBar.h>
@@ -10,7 +11,6 @@
 #include <ribbon/RibbonButton.h>
 #include <ribbon/RibbonTab.h>
 
-#include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
@@ -38,29 +38,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void moveMouse(const QWidget *widget, QPoint position)
-{
-    const QPoint target = widget->mapToGlobal(position);
-    xdotool(
-        {QStringLiteral("mousemove"), QString::number(target.x()), QString::number(target.y())});
-    QTRY_COMPARE(QCursor::pos(), target);
-}
-
-void moveMouse(const QWidget *widget)
-{
-    moveMouse(widget, widget->rect().center());
-}
-
-void click(int button = 1)
-{
-    xdotool({QStringLiteral("click"), QString::number(button)});
-}
 
 // A window as an application builds it, with one page of every kind of control.
 struct Window : QWidget
@@ -127,14 +104,9 @@ void clickToOpen(QMenu *menu, const std::function<void()> &act)
         act();
     });
     timer.start(10);
-    click();
+    RealMouse::click();
     QTRY_VERIFY(acted);
     QTRY_VERIFY(!menu->isVisible());
-}
-
-void escape()
-{
-    xdotool({QStringLiteral("key"), QStringLiteral("Escape")});
 }
 
 } // namespace
@@ -143,11 +115,11 @@ void tst_RibbonDesktop::hoverPaintsTheButton()
 {
     Window window;
     QVERIFY(window.open());
-    moveMouse(&window, {600, 300});
+    RealMouse::move(&window, {600, 300});
     QTRY_COMPARE(pixel(window.plainButton, {5, 60}), QColor(245, 245, 245));
-    moveMouse(window.plainButton);
+    RealMouse::move(window.plainButton);
     QTRY_COMPARE(pixel(window.plainButton, {5, 60}), QColor(Qt::white));
-    moveMouse(&window, {600, 300});
+    RealMouse::move(&window, {600, 300});
     QTRY_COMPARE(pixel(window.plainButton, {5, 60}), QColor(245, 245, 245));
 }
 
@@ -156,8 +128,8 @@ void tst_RibbonDesktop::clickTriggers()
     Window window;
     QVERIFY(window.open());
     QSignalSpy triggered(&window.plain, &QAction::triggered);
-    moveMouse(window.plainButton);
-    click();
+    RealMouse::move(window.plainButton);
+    RealMouse::click();
     QTRY_COMPARE(triggered.count(), 1);
 }
 
@@ -166,10 +138,10 @@ void tst_RibbonDesktop::rightButtonDoesNothing()
     Window window;
     QVERIFY(window.open());
     QSignalSpy triggered(&window.plain, &QAction::triggered);
-    moveMouse(window.plainButton);
-    click(3);
+    RealMouse::move(window.plainButton);
+    RealMouse::click(3);
     // Events come in order: when the left click is there, the right one was, too.
-    click(1);
+    RealMouse::click(1);
     QTRY_COMPARE(triggered.count(), 1);
 }
 
@@ -178,8 +150,8 @@ void tst_RibbonDesktop::clickOnTabSwitchesPage()
     Window window;
     QVERIFY(window.open());
     QSignalSpy changed(window.bar, &RibbonBar::signalCurrentPageChanged);
-    moveMouse(window.bar->findChildren<RibbonTab *>().constLast());
-    click();
+    RealMouse::move(window.bar->findChildren<RibbonTab *>().constLast());
+    RealMouse::click();
     QTRY_COMPARE(changed.count(), 1);
     QCOMPARE(changed.constFirst().constFirst().toInt(), 1);
     QCOMPARE(window.bar->currentPage(), window.view);
@@ -193,10 +165,10 @@ void tst_RibbonDesktop::instantMenuIsPicked()
     RibbonButton *button = window.addMenu(QToolButton::InstantPopup);
     QVERIFY(window.open());
     QSignalSpy picked(&window.second, &QAction::triggered);
-    moveMouse(button);
+    RealMouse::move(button);
     clickToOpen(&window.menu, [&] {
-        moveMouse(&window.menu, window.menu.actionGeometry(&window.second).center());
-        click();
+        RealMouse::move(&window.menu, window.menu.actionGeometry(&window.second).center());
+        RealMouse::click();
     });
     QTRY_COMPARE(picked.count(), 1);
 }
@@ -208,12 +180,12 @@ void tst_RibbonDesktop::splitButtonHasTwoParts()
     QVERIFY(window.open());
     QSignalSpy triggered(window.menu.menuAction(), &QAction::triggered);
     QSignalSpy shown(&window.menu, &QMenu::aboutToShow);
-    moveMouse(button, {button->width() / 2, 20});
-    click();
+    RealMouse::move(button, {button->width() / 2, 20});
+    RealMouse::click();
     QTRY_COMPARE(triggered.count(), 1);
     QCOMPARE(shown.count(), 0);
-    moveMouse(button, {button->width() / 2, 60});
-    clickToOpen(&window.menu, escape);
+    RealMouse::move(button, {button->width() / 2, 60});
+    clickToOpen(&window.menu, [] { RealMouse::key(QStringLiteral("Escape")); });
     QCOMPARE(shown.count(), 1);
     QCOMPARE(triggered.count(), 1);
 }
@@ -223,11 +195,11 @@ void tst_RibbonDesktop::menuStandsOnePixelHigher()
     Window window;
     RibbonButton *button = window.addMenu(QToolButton::InstantPopup);
     QVERIFY(window.open());
-    moveMouse(button);
+    RealMouse::move(button);
     int top = 0;
     clickToOpen(&window.menu, [&] {
         top = window.menu.y();
-        escape();
+        RealMouse::key(QStringLiteral("Escape"));
     });
     // Qt places a menu right under its button.
     QCOMPARE(top, button->mapToGlobal(QPoint(0, button->height())).y() - 1);
@@ -240,12 +212,12 @@ void tst_RibbonDesktop::delayedMenuStaysClosed()
     QVERIFY(window.open());
     QSignalSpy triggered(window.menu.menuAction(), &QAction::triggered);
     QSignalSpy shown(&window.menu, &QMenu::aboutToShow);
-    moveMouse(button);
-    xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
+    RealMouse::move(button);
+    RealMouse::xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
     QTRY_VERIFY(button->isDown());
     QVERIFY(!QTest::qWaitFor([&] { return shown.count() > 0; },
                              2 * button->style()->styleHint(QStyle::SH_ToolButton_PopupDelay)));
-    xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+    RealMouse::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
     QTRY_COMPARE(triggered.count(), 1);
     QCOMPARE(shown.count(), 0);
 }
@@ -259,8 +231,8 @@ void tst_RibbonDesktop::pageOffStageGetsNoClicks()
     window.bar->setCurrentIndex(1);
     window.bar->showPage(0);
     QVERIFY(window.home->isVisible());
-    moveMouse(window.view->findChild<RibbonButton *>());
-    click();
+    RealMouse::move(window.view->findChild<RibbonButton *>());
+    RealMouse::click();
     QTRY_COMPARE(current.count(), 1);
     QCOMPARE(shown.count(), 0);
 }
