@@ -3,7 +3,7 @@
 
 #include "DockTabWidget.h"
 
-#include <QtWidgets/QTabBar>
+#include "DockTabBar.h"
 
 namespace Norvane {
 
@@ -11,8 +11,10 @@ DockTabWidget::DockTabWidget(QWidget *parent)
     : QTabWidget(parent)
 {
     setObjectName(QStringLiteral("dockTabWidget"));
+    auto *bar = new DockTabBar;
     // The name must be there before the bar is polished, or it would keep the height of others.
-    tabBar()->setObjectName(QStringLiteral("dockTabBar"));
+    bar->setObjectName(QStringLiteral("dockTabBar"));
+    setTabBar(bar);
     setTabsClosable(true);
     setMovable(true);
 }

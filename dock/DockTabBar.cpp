@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "DockTabBar.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QHelpEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOptionTab>
+#include <QtWidgets/QToolTip>
+
+namespace Norvane {
+
+namespace {
+
+// Texts come and go with documents; a limit keeps those that went from adding up.
+constexpr qsizetype mostSizes = 4096;
+
+} // namespace
+
+DockTabBar::DockTabBar(QWidget *parent)
+    : QTabBar(parent)
+    , m_closeButton(new QWidget(this))
+{
+    m_closeButton->hide();
+    setMouseTracking(true);
+    connect(this, &QTabBar::tabMoved, this, [this] { setHovered(-1); });
+}
+
+QSize DockTabBar::tabSizeHint(int index) const
+{
+    if (!m_measuring)
+        return sizesOf(index).hint;
+    QSize size = QTabBar::tabSizeHint(index);
+    if (size.isValid() && hasCloseButton(index))
+        size.rwidth() += closeSize().width() + 4;
+    return size;
+}
+
+QSize DockTabBar::minimumTabSizeHint(int index) const
+{
+    return sizesOf(index).minimum;
+}
+
+DockTabBar::Sizes DockTabBar::sizesOf(int index) const
+{
+    const auto measure = [this, index] {
+        const QScopedValueRollback measuring(m_measuring, true);
+        return Sizes{tabSizeHint(index), QTabBar::minimumTabSizeHint(index)};
+    };
+    if (index < 0 || index >= count())
+        return {};
+    // While a tab is inserted or removed Qt still has another one for the first or the last.
+    if (m_knownCount != count() && (index <= 1 || index >= count() - 2))
+        return measure();
+    const Look look = lookOf(index);
+    auto sizes = m_sizes.constFind(look);
+    if (sizes == m_sizes.constEnd()) {
+        if (m_sizes.size() >= mostSizes)
+            m_sizes.clear();
+        sizes = m_sizes.insert(look, measure());
+    }
+    return *sizes;
+}
+
+DockTabBar::Look DockTabBar::lookOf(int index) const
+{
+    int first = 0;
+    while (first < index && !isTabVisible(first))
+        ++first;
+    int last = count() - 1;
+    while (last > index && !isTabVisible(last))
+        --last;
+    const QIcon icon = tabIcon(index);
+    int state = 0;
+    for (const bool is :
+         {index == first, index == last, index == currentIndex(), index == currentIndex() - 1,
+          index == currentIndex() + 1, isTabEnabled(index), hasCloseButton(index)})
+        state = 2 * state + is;
+    return {tabText(index), icon.isNull() ? 0 : icon.cacheKey(), state};
+}
+
+void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
+{
+    QTabBar::initStyleOption(option, index);
+    if (!hasCloseButton(index))
+        return;
+    if (closeSide() == LeftSide)
+        option->leftButtonSize = closeSize();
+    else
+        option->rightButtonSize = closeSize();
+    option->text = tabText(index);
+    const QRect text = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
+    option->text =
+        fontMetrics().elidedText(option->text, elideMode(), text.width(), Qt::TextShowMnemonic);
+}
+
+void DockTabBar::tabInserted(int index)
+{
+    // QTabBar makes a button for every new tab of a closable bar.
+    if (QWidget *button = tabsClosable() ? tabButton(index, closeSide()) : nullptr) {
+        setTabButton(index, closeSide(), nullptr);
+        delete button;
+    }
+    m_knownCount = count();
+    m_pressed = -1;
+    setHovered(-1);
+    QTabBar::tabInserted(index);
+}
+
+void DockTabBar::tabRemoved(int index)
+{
+    m_knownCount = count();
+    m_pressed = -1;
+    setHovered(-1);
+    QTabBar::tabRemoved(index);
+}
+
+bool DockTabBar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        if (closeAt(help->pos()) >= 0) {
+            QToolTip::showText(help->globalPos(),
+                               QCoreApplication::translate("CloseButton", "Close Tab"), this);
+            return true;
+        }
+    }
+    return QTabBar::event(event);
+}
+
+void DockTabBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
+        m_sizes.clear();
+    QTabBar::changeEvent(event);
+}
+
+void DockTabBar::leaveEvent(QEvent *event)
+{
+    setHovered(-1);
+    QTabBar::leaveEvent(event);
+}
+
+void DockTabBar::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && closeAt(event->position().toPoint()) >= 0)
+        mousePressEvent(event);
+    else
+        QTabBar::mouseDoubleClickEvent(event);
+}
+
+void DockTabBar::mousePressEvent(QMouseEvent *event)
+{
+    m_pressPosition = event->position().toPoint();
+    const int index = event->button() == Qt::LeftButton ? closeAt(m_pressPosition) : -1;
+    if (index < 0) {
+        QTabBar::mousePressEvent(event);
+        return;
+    }
+    m_pressed = index;
+    update(closeRect(index));
+}
+
+void DockTabBar::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->position().toPoint();
+    if (m_pressed >= 0) {
+        setHovered(closeRect(m_pressed).contains(position) ? m_pressed : -1);
+        return;
+    }
+    setHovered(event->buttons() == Qt::NoButton ? closeAt(position) : -1);
+    // A tab on its way is painted where only QTabBar knows.
+    m_dragging = m_dragging
+        || (isMovable() && event->buttons() == Qt::LeftButton
+            && (position - m_pressPosition).manhattanLength() > QApplication::startDragDistance());
+    QTabBar::mouseMoveEvent(event);
+}
+
+void DockTabBar::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_pressed < 0 || event->button() != Qt::LeftButton) {
+        if (m_dragging && event->button() == Qt::LeftButton) {
+            m_dragging = false;
+            update();
+        }
+        QTabBar::mouseReleaseEvent(event);
+        return;
+    }
+    const int index = std::exchange(m_pressed, -1);
+    const QRect button = closeRect(index);
+    update(button);
+    if (button.contains(event->position().toPoint()))
+        Q_EMIT tabCloseRequested(index);
+}
+
+void DockTabBar::paintEvent(QPaintEvent *event)
+{
+    QTabBar::paintEvent(event);
+    if (m_dragging)
+        return;
+    QPainter painter(this);
+    for (int index = 0; index < count(); ++index) {
+        if (hasCloseButton(index) && tabRect(index).intersects(event->rect()))
+            paintCloseButton(&painter, index);
+    }
+}
+
+bool DockTabBar::hasCloseButton(int index) const
+{
+    return tabsClosable() && !tabButton(index, closeSide());
+}
+
+QTabBar::ButtonPosition DockTabBar::closeSide() const
+{
+    return ButtonPosition(style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, this));
+}
+
+QSize DockTabBar::closeSize() const
+{
+    return {style()->pixelMetric(QStyle::PM_TabCloseIndicatorWidth, nullptr, m_closeButton),
+            style()->pixelMetric(QStyle::PM_TabCloseIndicatorHeight, nullptr, m_closeButton)};
+}
+
+QRect DockTabBar::closeRect(int index) const
+{
+    if (!isTabVisible(index))
+        return {};
+    QStyleOptionTab option;
+    initStyleOption(&option, index);
+    const QRect place = style()->subElementRect(
+        closeSide() == LeftSide ? QStyle::SE_TabBarTabLeftButton : QStyle::SE_TabBarTabRightButton,
+        &option, this);
+    return {place.topLeft(), closeSize()};
+}
+
+int DockTabBar::closeAt(QPoint position) const
+{
+    const int index = tabAt(position);
+    return index >= 0 && hasCloseButton(index) && isTabEnabled(index)
+            && closeRect(index).contains(position)
+        ? index
+        : -1;
+}
+
+void DockTabBar::setHovered(int index)
+{
+    if (m_hovered == index)
+        return;
+    m_hovered = index;
+    update();
+}
+
+void DockTabBar::paintCloseButton(QPainter *painter, int index) const
+{
+    const QRect place = closeRect(index);
+    if (place.isEmpty())
+        return;
+    QStyleOption option;
+    option.initFrom(this);
+    option.rect = QRect(QPoint(), place.size());
+    option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
+    option.state |= QStyle::State_AutoRaise;
+    option.state.setFlag(QStyle::State_Enabled, isEnabled() && isTabEnabled(index));
+    option.state.setFlag(QStyle::State_Selected, index == currentIndex());
+    option.state.setFlag(QStyle::State_MouseOver, index == m_hovered);
+    option.state.setFlag(QStyle::State_Raised, index == m_hovered && index != m_pressed);
+    option.state.setFlag(QStyle::State_Sunken, index == m_hovered && index == m_pressed);
+    painter->save();
+    painter->translate(place.topLeft());
+    style()->drawPrimitive(QStyle::PE_IndicatorTabClose, &option, painter, m_closeButton);
+    painter->restore();
+}
+
+} // namespace Norvane

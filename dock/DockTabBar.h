@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtWidgets/QTabBar>
+
+namespace Norvane {
+
+/*!
+    A bar of closable tabs that stays fast with a thousand of them. QTabBar makes a widget for each
+    close button, and at every insertion it moves all of them and asks the style for the size of all
+    tabs, twice. Here the close buttons are painted, and a size is kept until what it depends on
+    changes.
+*/
+class DockTabBar : public QTabBar
+{
+    Q_OBJECT
+
+public:
+    explicit DockTabBar(QWidget *parent = nullptr);
+
+protected:
+    QSize tabSizeHint(int index) const override;
+    QSize minimumTabSizeHint(int index) const override;
+    void initStyleOption(QStyleOptionTab *option, int index) const override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    // What the size of a tab depends on.
+    struct Look
+    {
+        QString text;
+        qint64 icon;
+        int state;
+
+        friend bool operator==(const Look &one, const Look &other) noexcept
+        {
+            return one.state == other.state && one.icon == other.icon && one.text == other.text;
+        }
+        friend size_t qHash(const Look &look, size_t seed = 0) noexcept
+        {
+            return qHashMulti(seed, look.text, look.icon, look.state);
+        }
+    };
+    struct Sizes
+    {
+        QSize hint;
+        QSize minimum;
+    };
+
+    Sizes sizesOf(int index) const;
+    Look lookOf(int index) const;
+    bool hasCloseButton(int index) const;
+    ButtonPosition closeSide() const;
+    QSize closeSize() const;
+    QRect closeRect(int index) const;
+    //! The tab whose close button is at \a position, or -1.
+    int closeAt(QPoint position) const;
+    void setHovered(int index);
+    void paintCloseButton(QPainter *painter, int index) const;
+
+    // Qt matches the rules of a close button with the parent of the widget that is painted.
+    QWidget *m_closeButton;
+    mutable QHash<Look, Sizes> m_sizes;
+    mutable bool m_measuring = false;
+    int m_knownCount = 0;
+    int m_hovered = -1;
+    int m_pressed = -1;
+    QPoint m_pressPosition;
+    bool m_dragging = false;
+};
+
+} // namespace Norvane

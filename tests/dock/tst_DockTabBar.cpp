@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "Gui.h"
+#include "TestCase.h"
+
+#include <dock/DockTabBar.h>
+#include <dock/DockTabWidget.h>
+#include <res/StyleSheet.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QToolTip>
+#include <QtWidgets/QVBoxLayout>
+
+#include <memory>
+
+using namespace Norvane;
+using namespace Qt::StringLiterals;
+
+class tst_DockTabBar : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void looksLikeABarOfQt_data();
+    void looksLikeABarOfQt();
+    void hasNoWidgetsForItsButtons();
+    void keepsSizesInStepWithTheTabs();
+    void closesByPressAndRelease();
+    void changesItsMindBesideTheButton();
+    void ignoresTheButtonOfADisabledTab();
+    void highlightsTheButtonUnderTheMouse();
+    void namesTheButton();
+    void hidesTheButtonsWhileATabIsMoved();
+    void movesByTheKeyboard();
+};
+
+namespace {
+
+// A tab widget under the sheet, with our bar in it or with Qt's own.
+class Host : public QWidget
+{
+public:
+    explicit Host(bool ours, const QString &more = {})
+        : tabs(ours ? new DockTabWidget : new QTabWidget)
+    {
+        setStyleSheet(StyleSheet::read(u":/res/dockLight.css"_s) + more);
+        tabs->setObjectName(u"dockTabWidget"_s);
+        tabs->tabBar()->setObjectName(u"dockTabBar"_s);
+        tabs->setTabsClosable(true);
+        tabs->setMovable(true);
+        auto *column = new QVBoxLayout(this);
+        column->addWidget(tabs);
+        resize(500, 120);
+    }
+
+    bool open()
+    {
+        if (!Gui::open(this))
+            return false;
+        Gui::moveMouse(this, rect().bottomRight() - QPoint(1, 1));
+        return true;
+    }
+
+    QTabBar *bar() const { return tabs->tabBar(); }
+
+    QTabWidget *tabs;
+};
+
+using Way = std::function<void(Host &)>;
+
+void add(Host &host, int count)
+{
+    for (int i = 0; i < count; ++i)
+        host.tabs->addTab(new QWidget, u"document %1.txt"_s.arg(i));
+}
+
+QPoint buttonAt(const QTabBar *bar, int index)
+{
+    const QRect tab = bar->tabRect(index);
+    return {tab.right() - 11, tab.center().y()};
+}
+
+} // namespace
+
+void tst_DockTabBar::looksLikeABarOfQt_data()
+{
+    QTest::addColumn<Way>("prepare");
+    QTest::addColumn<QString>("more");
+    QTest::newRow("one tab") << Way([](Host &host) { add(host, 1); }) << QString();
+    QTest::newRow("three tabs") << Way([](Host &host) { add(host, 3); }) << QString();
+    QTest::newRow("the last selected") << Way([](Host &host) {
+        add(host, 3);
+        host.tabs->setCurrentIndex(2);
+    }) << QString();
+    QTest::newRow("wider than the window") << Way([](Host &host) { add(host, 12); }) << QString();
+    QTest::newRow("scrolled to the end") << Way([](Host &host) {
+        add(host, 12);
+        host.tabs->setCurrentIndex(11);
+    }) << QString();
+    QTest::newRow("a hidden and a disabled tab") << Way([](Host &host) {
+        add(host, 4);
+        host.tabs->setTabVisible(0, false);
+        host.tabs->setTabEnabled(2, false);
+    }) << QString();
+    QTest::newRow("texts and icons changed") << Way([](Host &host) {
+        add(host, 3);
+        host.tabs->setTabText(1, u"&a"_s);
+        host.tabs->setTabIcon(0, QIcon(u":/res/menu.svg"_s));
+    }) << QString();
+    QTest::newRow("removed and inserted") << Way([](Host &host) {
+        add(host, 3);
+        host.tabs->removeTab(1);
+        host.tabs->insertTab(0, new QWidget, u"first of all"_s);
+        host.tabs->removeTab(2);
+    }) << QString();
+    QTest::newRow("an application's sheet") << Way([](Host &host) { add(host, 3); })
+                                            << u"QTabBar::tab:selected { font: bold; }"
+                                               "QTabBar::tab:last { padding-right: 30px; }"
+                                               "QTabBar::tab:first { padding-left: 25px; }"_s;
+}
+
+void tst_DockTabBar::looksLikeABarOfQt()
+{
+    QFETCH(Way, prepare);
+    QFETCH(QString, more);
+    for (const bool before : {true, false}) {
+        QImage pictures[2];
+        QList<QRect> places[2];
+        for (const bool ours : {false, true}) {
+            Host host(ours, more);
+            if (before)
+                prepare(host);
+            QVERIFY(host.open());
+            if (!before)
+                prepare(host);
+            QCoreApplication::processEvents();
+            for (int i = 0; i < host.bar()->count(); ++i)
+                places[ours] << host.bar()->tabRect(i);
+            // Through their round corners the scroll buttons show a little of what lies below.
+            int end = host.bar()->width();
+            const QList<QAbstractButton *> buttons =
+                host.bar()->findChildren<QAbstractButton *>(Qt::FindDirectChildrenOnly);
+            for (const QAbstractButton *button : buttons) {
+                if (button->isVisible() && button->inherits("QToolButton"))
+                    end = qMin(end, button->x());
+            }
+            pictures[ours] = Gui::picture(host.bar()).copy(0, 0, end, host.bar()->height());
+        }
+        QCOMPARE(places[true], places[false]);
+        QCOMPARE(pictures[true], pictures[false]);
+    }
+}
+
+void tst_DockTabBar::hasNoWidgetsForItsButtons()
+{
+    Host host(true);
+    QVERIFY(host.open());
+    add(host, 5);
+    QVERIFY(host.tabs->tabsClosable());
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(!host.bar()->tabButton(i, QTabBar::RightSide));
+    const QList<QAbstractButton *> buttons = host.bar()->findChildren<QAbstractButton *>();
+    QCOMPARE(buttons.size(), 2); // to scroll
+}
+
+void tst_DockTabBar::keepsSizesInStepWithTheTabs()
+{
+    Host host(true);
+    QVERIFY(host.open());
+    add(host, 3);
+    const int width = host.bar()->tabRect(1).width();
+    host.tabs->setTabText(1, u"a much longer text than before"_s);
+    QVERIFY(host.bar()->tabRect(1).width() > width + 50);
+    host.tabs->setTabText(1, u"document 1.txt"_s);
+    QCOMPARE(host.bar()->tabRect(1).width(), width);
+    QFont font = host.bar()->font();
+    font.setPixelSize(30);
+    host.bar()->setFont(font);
+    QTRY_VERIFY(host.bar()->tabRect(1).width() > width + 50);
+}
+
+void tst_DockTabBar::closesByPressAndRelease()
+{
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
+    QSignalSpy clicked(host.bar(), &QTabBar::tabBarClicked);
+    Gui::press(host.bar(), buttonAt(host.bar(), 1));
+    QCOMPARE(requested.count(), 0);
+    Gui::release(host.bar(), buttonAt(host.bar(), 1));
+    QCOMPARE(requested, QList<QVariantList>({{1}}));
+    QCOMPARE(clicked.count(), 0);
+    QCOMPARE(host.tabs->currentIndex(), 0);
+    // A second click that comes at once is a click as well.
+    QTest::mouseDClick(host.windowHandle(), Qt::LeftButton, {},
+                       Gui::inWindow(host.bar(), buttonAt(host.bar(), 2)));
+    QCOMPARE(requested.constLast(), QVariantList({2}));
+    Gui::click(host.bar(), buttonAt(host.bar(), 1), Qt::RightButton);
+    QCOMPARE(host.tabs->currentIndex(), 0);
+}
+
+void tst_DockTabBar::changesItsMindBesideTheButton()
+{
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
+    Gui::press(host.bar(), buttonAt(host.bar(), 1));
+    Gui::moveMouse(host.bar(), buttonAt(host.bar(), 1) - QPoint(40, 0));
+    Gui::release(host.bar(), buttonAt(host.bar(), 1) - QPoint(40, 0));
+    Gui::press(host.bar(), buttonAt(host.bar(), 1) - QPoint(40, 0));
+    Gui::release(host.bar(), buttonAt(host.bar(), 1));
+    Gui::press(host.bar(), buttonAt(host.bar(), 1));
+    Gui::release(host.bar(), buttonAt(host.bar(), 2));
+    QCOMPARE(requested.count(), 0);
+
+    // The tab goes while its button is held.
+    Gui::press(host.bar(), buttonAt(host.bar(), 2));
+    delete host.tabs->widget(2);
+    Gui::release(host.bar(), QPoint(5, 5));
+    QCOMPARE(requested.count(), 0);
+    QCOMPARE(host.tabs->count(), 2);
+}
+
+void tst_DockTabBar::ignoresTheButtonOfADisabledTab()
+{
+    Host host(true);
+    add(host, 3);
+    host.tabs->setTabEnabled(1, false);
+    QVERIFY(host.open());
+    QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
+    Gui::click(host.bar(), buttonAt(host.bar(), 1));
+    QCOMPARE(requested.count(), 0);
+    QCOMPARE(host.tabs->currentIndex(), 0);
+}
+
+void tst_DockTabBar::highlightsTheButtonUnderTheMouse()
+{
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    const QColor red(243, 144, 141);
+    const QPoint inside = buttonAt(host.bar(), 1) + QPoint(0, 6);
+    const auto seen = [&] {
+        const QImage picture = Gui::picture(host.bar());
+        bool found = false;
+        const QRect tab = host.bar()->tabRect(1);
+        for (int y = tab.top(); y < tab.bottom(); ++y) {
+            for (int x = tab.right() - 22; x < tab.right(); ++x)
+                found = found || Gui::pixel(picture, {x, y}) == red;
+        }
+        return found;
+    };
+    QVERIFY(!seen());
+    Gui::moveMouse(host.bar(), inside);
+    QTRY_VERIFY(seen());
+    Gui::moveMouse(host.bar(), host.bar()->tabRect(1).center() - QPoint(20, 0));
+    QTRY_VERIFY(!seen());
+    Gui::moveMouse(host.bar(), inside);
+    QTRY_VERIFY(seen());
+    Gui::moveMouse(&host, host.rect().bottomRight() - QPoint(1, 1));
+    QTRY_VERIFY(!seen());
+}
+
+void tst_DockTabBar::namesTheButton()
+{
+    Host host(true);
+    add(host, 2);
+    host.tabs->setTabToolTip(1, u"the tab"_s);
+    QVERIFY(host.open());
+    const auto tip = [&](QPoint position) {
+        QHelpEvent event(QEvent::ToolTip, position, host.bar()->mapToGlobal(position));
+        QCoreApplication::sendEvent(host.bar(), &event);
+        return QToolTip::text();
+    };
+    QCOMPARE(tip(buttonAt(host.bar(), 1)), u"Close Tab"_s);
+    QCOMPARE(tip(host.bar()->tabRect(1).center() - QPoint(20, 0)), u"the tab"_s);
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void tst_DockTabBar::hidesTheButtonsWhileATabIsMoved()
+{
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    const QPoint from = host.bar()->tabRect(0).center() - QPoint(20, 0);
+    const QPoint button = buttonAt(host.bar(), 2);
+    const auto dark = [&] {
+        const QImage picture = Gui::picture(host.bar());
+        int count = 0;
+        for (int y = button.y() - 6; y <= button.y() + 6; ++y) {
+            for (int x = button.x() - 6; x <= button.x() + 6; ++x)
+                count += Gui::pixel(picture, {x, y}).lightness() < 120;
+        }
+        return count > 5;
+    };
+    QVERIFY(dark());
+    Gui::press(host.bar(), from);
+    for (int x = 0; x <= 20; x += 5)
+        Gui::moveMouse(host.bar(), from + QPoint(x, 0));
+    QVERIFY(!dark());
+    Gui::release(host.bar(), from + QPoint(20, 0));
+    QTRY_VERIFY(dark());
+}
+
+void tst_DockTabBar::movesByTheKeyboard()
+{
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    host.activateWindow();
+    host.bar()->setFocus();
+    QTest::keyClick(host.bar(), Qt::Key_Right);
+    QCOMPARE(host.tabs->currentIndex(), 1);
+    QTest::keyClick(host.bar(), Qt::Key_Left);
+    QCOMPARE(host.tabs->currentIndex(), 0);
+}
+
+NORVANE_TEST_MAIN(tst_DockTabBar)
+#include "tst_DockTabBar.moc"
