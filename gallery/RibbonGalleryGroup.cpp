@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "RibbonGalleryGroup_p.h"
+
+#include "RibbonGalleryItem.h"
+#include "RibbonGalleryLayout.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace Norvane {
+
+RibbonGalleryGroupPrivate::RibbonGalleryGroupPrivate()
+    : iconLabel(new QLabel)
+    , titleLabel(new QLabel)
+    , groupFrame(new QFrame)
+    , itemsLayout(new RibbonGalleryLayout(groupFrame, 0, 0, 0))
+    , toTopButton(new QPushButton)
+    , toBottomButton(new QPushButton)
+{
+    groupFrame->setObjectName(QStringLiteral("galleryGroupFrame"));
+    itemsLayout->setContentsMargins(3, 5, 3, 5);
+    toTopButton->setIcon(QIcon(QStringLiteral(":/res/toTop.svg")));
+    toTopButton->setIconSize({16, 16});
+    toBottomButton->setIcon(QIcon(QStringLiteral(":/res/toBottom.svg")));
+    toBottomButton->setIconSize({16, 16});
+}
+
+RibbonGalleryGroupPrivate::~RibbonGalleryGroupPrivate() = default;
+
+int RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
+{
+    // Items of deleted actions have none.
+    for (int i = 0; action && i < items.size(); ++i) {
+        if (items[i]->defaultAction() == action)
+            return i;
+    }
+    return -1;
+}
+
+RibbonGalleryGroup::RibbonGalleryGroup(const QIcon &icon, const QString &title, QWidget *parent)
+    : RibbonGalleryGroup(*new RibbonGalleryGroupPrivate, icon, title, parent)
+{
+}
+
+RibbonGalleryGroup::RibbonGalleryGroup(RibbonGalleryGroupPrivate &dd, const QIcon &icon,
+                                       const QString &title, QWidget *parent)
+    : QFrame(parent)
+    , d_ptr(&dd)
+{
+    Q_D(RibbonGalleryGroup);
+    d->q_ptr = this;
+    auto *titleRow = new QHBoxLayout;
+    titleRow->setSpacing(0);
+    titleRow->setContentsMargins(4, 0, 4, 0);
+    titleRow->setDirection(QBoxLayout::LeftToRight);
+    titleRow->addWidget(d->iconLabel);
+    titleRow->addWidget(d->titleLabel);
+    titleRow->addStretch(1);
+    titleRow->addWidget(d->toTopButton);
+    titleRow->addWidget(d->toBottomButton);
+    auto *titleBar = new QFrame;
+    titleBar->setObjectName(QStringLiteral("galleryGroupTitle"));
+    titleBar->setLayout(titleRow);
+    auto *column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(titleBar);
+    column->addWidget(d->groupFrame);
+    connect(d->toTopButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT signalPositionChange(Top); });
+    connect(d->toBottomButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT signalPositionChange(Bottom); });
+    d->titleLabel->setText(title);
+    if (icon.isNull())
+        d->iconLabel->hide();
+    else
+        d->iconLabel->setPixmap(icon.pixmap(QSize(16, 16), QIcon::Normal, QIcon::Off));
+}
+
+RibbonGalleryGroup::~RibbonGalleryGroup() = default;
+
+int RibbonGalleryGroup::addItem(QAction *action, const QSize &iconSize, const QSize &fixedSize,
+                                bool collectEnabled)
+{
+    Q_D(RibbonGalleryGroup);
+    // The layout would bring it there in any case, at more than the price of the item.
+    auto *item = new RibbonGalleryItem(action, d->groupFrame);
+    item->setIconSize(iconSize);
+    item->setFixedSize(fixedSize);
+    item->setCollectEnabled(collectEnabled);
+    d->items.append(item);
+    d->itemsLayout->addWidget(item);
+    return count() - 1;
+}
+
+int RibbonGalleryGroup::count() const
+{
+    Q_D(const RibbonGalleryGroup);
+    return int(d->items.size());
+}
+
+RibbonGalleryItem *RibbonGalleryGroup::item(int index) const
+{
+    Q_D(const RibbonGalleryGroup);
+    return d->items.value(index);
+}
+
+bool RibbonGalleryGroup::isItemCollected(int index) const
+{
+    const RibbonGalleryItem *at = item(index);
+    return at && at->isCollected();
+}
+
+bool RibbonGalleryGroup::setItemCollected(int index, bool collected)
+{
+    RibbonGalleryItem *at = item(index);
+    if (!at)
+        return false;
+    at->setCollected(collected);
+    return true;
+}
+
+bool RibbonGalleryGroup::setItemCollected(QAction *action, bool collected)
+{
+    Q_D(RibbonGalleryGroup);
+    return setItemCollected(d->indexOf(action), collected);
+}
+
+bool RibbonGalleryGroup::removeItem(QAction *action)
+{
+    Q_D(RibbonGalleryGroup);
+    const int index = d->indexOf(action);
+    if (index < 0)
+        return false;
+    RibbonGalleryItem *item = d->items.takeAt(index);
+    d->itemsLayout->removeWidget(item);
+    delete item;
+    return true;
+}
+
+void RibbonGalleryGroup::setItemVisible(int index, bool visible)
+{
+    Q_D(RibbonGalleryGroup);
+    d->items[index]->setVisible(visible);
+}
+
+void RibbonGalleryGroup::setPosition(Position position)
+{
+    Q_D(RibbonGalleryGroup);
+    d->toTopButton->setVisible(position == Middle || position == Bottom);
+    d->toBottomButton->setVisible(position == Top || position == Middle);
+}
+
+QString RibbonGalleryGroup::title() const
+{
+    Q_D(const RibbonGalleryGroup);
+    return d->titleLabel->text();
+}
+
+void RibbonGalleryGroup::updateLayout()
+{
+    Q_D(RibbonGalleryGroup);
+    d->itemsLayout->update();
+}
+
+} // namespace Norvane

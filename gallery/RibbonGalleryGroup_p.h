@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "RibbonGalleryGroup.h"
+
+#include <QtCore/QList>
+
+class QLabel;
+class QPushButton;
+
+namespace Norvane {
+
+class RibbonGalleryLayout;
+
+class RibbonGalleryGroupPrivate
+{
+    Q_DECLARE_PUBLIC(RibbonGalleryGroup)
+
+public:
+    RibbonGalleryGroupPrivate();
+    virtual ~RibbonGalleryGroupPrivate();
+
+    int indexOf(const QAction *action) const;
+
+    QList<RibbonGalleryItem *> items;
+    QLabel *iconLabel;
+    QLabel *titleLabel;
+    QFrame *groupFrame;
+    RibbonGalleryLayout *itemsLayout;
+    QPushButton *toTopButton;
+    QPushButton *toBottomButton;
+    RibbonGalleryGroup *q_ptr = nullptr;
+};
+
+} // namespace Norvane
