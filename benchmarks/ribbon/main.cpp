@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Counter.h"
+#include "Look.h"
 #include "PlainSubject.h"
 #include "Recorder.h"
 #include "RibbonSubject.h"
@@ -11,10 +12,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QPointer>
 #include <QtGui/QAction>
-#include <QtGui/QFontDatabase>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -205,12 +204,7 @@ void run(const Options &options, const QList<PageActions> &pages, Recorder *reco
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    QFontDatabase::addApplicationFont(QStringLiteral(":/benchmark/DejaVuSans.ttf"));
-    // The ribbon's sheet asks for a font that most machines lack.
-    QFont::insertSubstitution(QStringLiteral("微软雅黑"), QStringLiteral("DejaVu Sans"));
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+    Look::apply();
 
     const QCommandLineOption ribbon(QStringLiteral("ribbon"),
                                     QStringLiteral("Measure the ribbon, else plain Qt."));
@@ -248,8 +242,6 @@ int main(int argc, char **argv)
         counter = new Counter(QStringLiteral("Fusion"));
         app.installEventFilter(counter);
         QApplication::setStyle(counter);
-    } else {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     }
 
     QObject owner;

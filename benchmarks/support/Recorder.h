@@ -20,6 +20,7 @@ public:
 
     void measure(const QString &phase, int repetitions, const std::function<void(int)> &run);
     void memory(const QString &phase);
+    void add(const QString &name, int value) { m_result.insert(name, value); }
 
     QJsonObject result() const { return m_result; }
 
