@@ -3,12 +3,34 @@
 
 #include "DockTitle_p.h"
 
+#include <QtCore/QApplicationStatic>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
 namespace Norvane {
+
+namespace {
+
+// A drawing is read again for every icon that is made of it, so all titles share theirs.
+struct Icons
+{
+    Icons()
+        : menu(QStringLiteral(":/res/menu.svg"))
+    {
+        collapse.addFile(QStringLiteral(":/res/downArrowNormal.svg"), {}, QIcon::Normal,
+                         QIcon::Off);
+        collapse.addFile(QStringLiteral(":/res/rightArrowNormal.svg"), {}, QIcon::Normal,
+                         QIcon::On);
+    }
+
+    QIcon collapse;
+    QIcon menu;
+};
+Q_APPLICATION_STATIC(Icons, icons)
+
+} // namespace
 
 DockTitlePrivate::DockTitlePrivate()
     : collapseButton(new QPushButton)
@@ -17,19 +39,16 @@ DockTitlePrivate::DockTitlePrivate()
     , menu(new QMenu)
     , minimizeAction(menu->addAction(DockTitle::tr("minimize to bar")))
 {
-    QIcon arrow;
-    arrow.addFile(QStringLiteral(":/res/downArrowNormal.svg"), {}, QIcon::Normal, QIcon::Off);
-    arrow.addFile(QStringLiteral(":/res/rightArrowNormal.svg"), {}, QIcon::Normal, QIcon::On);
     collapseButton->setFlat(true);
     collapseButton->setCheckable(true);
-    collapseButton->setIcon(arrow);
+    collapseButton->setIcon(icons->collapse);
     collapseButton->setIconSize({17, 17});
     collapseButton->hide();
     QSizePolicy policy = titleLabel->sizePolicy();
     policy.setVerticalPolicy(QSizePolicy::Expanding);
     titleLabel->setSizePolicy(policy);
     menuButton->setFlat(true);
-    menuButton->setIcon(QIcon(QStringLiteral(":/res/menu.svg")));
+    menuButton->setIcon(icons->menu);
     menuButton->setIconSize({10, 10});
 }
 

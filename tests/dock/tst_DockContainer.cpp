@@ -6,7 +6,7 @@
 
 #include <dock/DockPanel.h>
 #include <dock/DockStatusBar.h>
-#include <res/StyleSheet.h>
+#include <style/StyleSheet.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>

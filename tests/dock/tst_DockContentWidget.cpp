@@ -5,7 +5,7 @@
 #include "TestCase.h"
 
 #include <Norvane/DockContentWidget.h>
-#include <res/StyleSheet.h>
+#include <style/StyleSheet.h>
 
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QTimer>

@@ -6,7 +6,7 @@
 
 #include <dock/DockButton.h>
 #include <dock/DockPanel.h>
-#include <res/StyleSheet.h>
+#include <style/StyleSheet.h>
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QBoxLayout>

@@ -6,7 +6,7 @@
 
 #include <dock/DockTabBar.h>
 #include <dock/DockTabWidget.h>
-#include <res/StyleSheet.h>
+#include <style/StyleSheet.h>
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>

@@ -6,7 +6,7 @@
 
 #include <dock/DockTitle.h>
 #include <dock/DockView.h>
-#include <res/StyleSheet.h>
+#include <style/StyleSheet.h>
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLabel>
