@@ -35,7 +35,7 @@ QSize DockTabBar::tabSizeHint(int index) const
         return sizesOf(index).hint;
     QSize size = QTabBar::tabSizeHint(index);
     if (size.isValid() && hasCloseButton(index))
-        size.rwidth() += closeSize().width() + 4;
+        size.rwidth() += closeLook().size.width() + 4;
     return size;
 }
 
@@ -85,12 +85,13 @@ DockTabBar::Look DockTabBar::lookOf(int index) const
 void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
 {
     QTabBar::initStyleOption(option, index);
-    if (!hasCloseButton(index))
+    // Nobody reads a text that lies outside of the bar.
+    if (!hasCloseButton(index) || !option->rect.intersects(rect()))
         return;
-    if (closeSide() == LeftSide)
-        option->leftButtonSize = closeSize();
+    if (closeLook().side == LeftSide)
+        option->leftButtonSize = closeLook().size;
     else
-        option->rightButtonSize = closeSize();
+        option->rightButtonSize = closeLook().size;
     option->text = tabText(index);
     const QRect text = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
     option->text =
@@ -100,8 +101,8 @@ void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
 void DockTabBar::tabInserted(int index)
 {
     // QTabBar makes a button for every new tab of a closable bar.
-    if (QWidget *button = tabsClosable() ? tabButton(index, closeSide()) : nullptr) {
-        setTabButton(index, closeSide(), nullptr);
+    if (QWidget *button = tabsClosable() ? tabButton(index, closeLook().side) : nullptr) {
+        setTabButton(index, closeLook().side, nullptr);
         delete button;
     }
     m_knownCount = count();
@@ -118,8 +119,16 @@ void DockTabBar::tabRemoved(int index)
     QTabBar::tabRemoved(index);
 }
 
+void DockTabBar::forgetSizes()
+{
+    m_sizes.clear();
+    m_closeLook.reset();
+}
+
 bool DockTabBar::event(QEvent *event)
 {
+    if (event->type() == QEvent::Polish)
+        forgetSizes();
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
         if (closeAt(help->pos()) >= 0) {
@@ -134,7 +143,7 @@ bool DockTabBar::event(QEvent *event)
 void DockTabBar::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
-        m_sizes.clear();
+        forgetSizes();
     QTabBar::changeEvent(event);
 }
 
@@ -210,18 +219,20 @@ void DockTabBar::paintEvent(QPaintEvent *event)
 
 bool DockTabBar::hasCloseButton(int index) const
 {
-    return tabsClosable() && !tabButton(index, closeSide());
+    return tabsClosable() && !tabButton(index, closeLook().side);
 }
 
-QTabBar::ButtonPosition DockTabBar::closeSide() const
+const DockTabBar::CloseLook &DockTabBar::closeLook() const
 {
-    return ButtonPosition(style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, this));
-}
-
-QSize DockTabBar::closeSize() const
-{
-    return {style()->pixelMetric(QStyle::PM_TabCloseIndicatorWidth, nullptr, m_closeButton),
-            style()->pixelMetric(QStyle::PM_TabCloseIndicatorHeight, nullptr, m_closeButton)};
+    if (!m_closeLook) {
+        const QStyle *style = this->style();
+        const int side = style->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, this);
+        const QSize size(
+            style->pixelMetric(QStyle::PM_TabCloseIndicatorWidth, nullptr, m_closeButton),
+            style->pixelMetric(QStyle::PM_TabCloseIndicatorHeight, nullptr, m_closeButton));
+        m_closeLook = CloseLook{ButtonPosition(side), size};
+    }
+    return *m_closeLook;
 }
 
 QRect DockTabBar::closeRect(int index) const
@@ -230,10 +241,11 @@ QRect DockTabBar::closeRect(int index) const
         return {};
     QStyleOptionTab option;
     initStyleOption(&option, index);
-    const QRect place = style()->subElementRect(
-        closeSide() == LeftSide ? QStyle::SE_TabBarTabLeftButton : QStyle::SE_TabBarTabRightButton,
-        &option, this);
-    return {place.topLeft(), closeSize()};
+    const QRect place =
+        style()->subElementRect(closeLook().side == LeftSide ? QStyle::SE_TabBarTabLeftButton
+                                                             : QStyle::SE_TabBarTabRightButton,
+                                &option, this);
+    return {place.topLeft(), closeLook().size};
 }
 
 int DockTabBar::closeAt(QPoint position) const

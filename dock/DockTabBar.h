@@ -6,6 +6,8 @@
 #include <QtCore/QHash>
 #include <QtWidgets/QTabBar>
 
+#include <optional>
+
 namespace Norvane {
 
 /*!
@@ -60,11 +62,17 @@ private:
         QSize minimum;
     };
 
+    struct CloseLook
+    {
+        ButtonPosition side;
+        QSize size;
+    };
+
     Sizes sizesOf(int index) const;
     Look lookOf(int index) const;
     bool hasCloseButton(int index) const;
-    ButtonPosition closeSide() const;
-    QSize closeSize() const;
+    const CloseLook &closeLook() const;
+    void forgetSizes();
     QRect closeRect(int index) const;
     //! The tab whose close button is at \a position, or -1.
     int closeAt(QPoint position) const;
@@ -74,6 +82,7 @@ private:
     // Qt matches the rules of a close button with the parent of the widget that is painted.
     QWidget *m_closeButton;
     mutable QHash<Look, Sizes> m_sizes;
+    mutable std::optional<CloseLook> m_closeLook;
     mutable bool m_measuring = false;
     int m_knownCount = 0;
     int m_hovered = -1;
