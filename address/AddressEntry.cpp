@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "AddressEntry_p.h"
+
+#include "AddressPath.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QPixmapCache>
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QStyle>
+
+namespace Norvane {
+
+namespace {
+
+// An icon renders its file anew for every object that holds it, so the pixmap is kept by name.
+QPixmap arrowPixmap(const QString &file, QSize size, qreal devicePixelRatio)
+{
+    const QString key = file + QString::number(devicePixelRatio);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QIcon(file).pixmap(size, devicePixelRatio, QIcon::Normal, QIcon::Off);
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+} // namespace
+
+AddressEntryPrivate::AddressEntryPrivate()
+    : driveIcon(QApplication::style()->standardIcon(QStyle::SP_DriveHDIcon))
+    , folderIcon(QApplication::style()->standardIcon(QStyle::SP_DirIcon))
+    , borderPen(QColor(51, 51, 51), 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
+    , normalBrush(QColor(255, 255, 255))
+    , lightBrush(QColor(245, 245, 245))
+    , pressedBrush(QColor(217, 217, 217))
+    , activeBrush(QColor(180, 222, 255))
+{
+    borderPen.setCosmetic(true);
+}
+
+AddressEntryPrivate::~AddressEntryPrivate() = default;
+
+bool AddressEntryPrivate::isSplit() const
+{
+    return q_func()->popupMode() == QToolButton::MenuButtonPopup;
+}
+
+int AddressEntryPrivate::textPartWidth() const
+{
+    return textLeft + textArrowGap + textWidth;
+}
+
+QSize AddressEntryPrivate::measure()
+{
+    Q_Q(AddressEntry);
+    QSize size(22, 22);
+    textWidth = q->fontMetrics().horizontalAdvance(q->text());
+    if (isSplit()) {
+        arrowRect = QRect(QPoint(textPartWidth(), 0), arrowPartSize);
+        size.setWidth(textPartWidth() + arrowPartSize.width());
+    } else if (q->popupMode() == QToolButton::InstantPopup) {
+        arrowRect = QRect(QPoint(0, 0), arrowPartSize);
+        size.setWidth(arrowPartSize.width());
+    } else {
+        size.setWidth(textLeft + textRight + textWidth);
+    }
+    return size;
+}
+
+void AddressEntryPrivate::setArrowHovered(bool on)
+{
+    Q_Q(AddressEntry);
+    if (arrowHovered == on)
+        return;
+    arrowHovered = on;
+    q->update();
+}
+
+void AddressEntryPrivate::createMenu(const QStringList &names, const QIcon &icon)
+{
+    Q_Q(AddressEntry);
+    auto *menu = new QMenu(q);
+    q->setMenu(menu);
+    for (const QString &name : names)
+        menu->addAction(icon, name);
+    menu->installEventFilter(q);
+    // Columns would run out of the screen's side. A sheet takes a while, and few menus are opened.
+    QObject::connect(
+        menu, &QMenu::aboutToShow, q,
+        [menu] { menu->setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }")); },
+        Qt::SingleShotConnection);
+    QObject::connect(menu, &QMenu::aboutToHide, q, [this] { hovered = false; });
+    QObject::connect(menu, &QMenu::triggered, q, [this, q](const QAction *action) {
+        Q_EMIT q->signalClicked(
+            AddressPath::child(path, action->text(), AddressPath::nativeStyle()));
+    });
+}
+
+// Under the arrow, as long as the screen has room there.
+void AddressEntryPrivate::placeMenu() const
+{
+    Q_Q(const AddressEntry);
+    QMenu *menu = q->menu();
+    QPoint position = q->mapToGlobal(QPoint(textPartWidth(), q->height()));
+    const QRect screen = q->screen()->availableGeometry();
+    const int room = screen.bottom() + 1 - position.y();
+    const bool scrolls = menu->height() < menu->sizeHint().height();
+    if (scrolls && room > screen.height() / 2)
+        menu->resize(menu->width(), room);
+    position.setX(qMin(position.x(), screen.right() + 1 - menu->width()));
+    position.setY(qMin(position.y(), screen.bottom() + 1 - menu->height()));
+    menu->move(position);
+}
+
+void AddressEntryPrivate::paintBackground(QPainter &painter) const
+{
+    Q_Q(const AddressEntry);
+    const int width = q->width();
+    const int height = q->height();
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    if (isSplit()) {
+        const QRect textPart(0, 0, textPartWidth(), height);
+        const QRect arrowPart(textPartWidth(), 0, arrowPartSize.width(), height);
+        if (arrowHovered) {
+            painter.fillRect(arrowPart, q->isDown() ? pressedBrush : normalBrush);
+            painter.fillRect(textPart, q->isDown() ? activeBrush : lightBrush);
+        } else {
+            painter.fillRect(textPart, q->isDown() ? pressedBrush : normalBrush);
+            painter.fillRect(arrowPart, lightBrush);
+        }
+    } else {
+        painter.fillRect(q->rect(), q->isDown() ? pressedBrush : normalBrush);
+    }
+    painter.translate(0.5, 0.5);
+    painter.setPen(borderPen);
+    painter.drawLine(0, 0, 0, height - 1);
+    if (isSplit())
+        painter.drawLine(textPartWidth(), 0, textPartWidth(), height - 1);
+    painter.drawLine(width - 1, 0, width - 1, height - 1);
+    painter.restore();
+}
+
+void AddressEntryPrivate::paintText(QPainter &painter) const
+{
+    Q_Q(const AddressEntry);
+    const int width = q->fontMetrics().size(Qt::TextSingleLine, q->text()).width();
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(textLeft, 0, width, q->height()), Qt::AlignVCenter | Qt::TextSingleLine,
+                     q->text());
+}
+
+void AddressEntryPrivate::paintArrow(QPainter &painter) const
+{
+    Q_Q(const AddressEntry);
+    const QString file = q->isDown() && arrowHovered ? QStringLiteral(":/res/arrowDown.svg")
+                                                     : QStringLiteral(":/res/arrowRight.svg");
+    painter.drawPixmap(q->width() - arrowRight - arrowSize.width(),
+                       (q->height() - arrowSize.height()) / 2,
+                       arrowPixmap(file, arrowSize, q->devicePixelRatio()));
+}
+
+AddressEntry::AddressEntry(QWidget *parent)
+    : AddressEntry(*new AddressEntryPrivate, parent)
+{
+    setAttribute(Qt::WA_MouseTracking);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        Q_D(const AddressEntry);
+        Q_EMIT signalClicked(d->path);
+    });
+}
+
+AddressEntry::AddressEntry(AddressEntryPrivate &dd, QWidget *parent)
+    : QToolButton(parent)
+    , d_ptr(&dd)
+{
+    Q_D(AddressEntry);
+    d->q_ptr = this;
+}
+
+AddressEntry::~AddressEntry() = default;
+
+void AddressEntry::setPath(const QString &path)
+{
+    Q_D(AddressEntry);
+    d->path = path;
+    const AddressPath::Style style = AddressPath::nativeStyle();
+    const QStringList names = AddressPath::children(path, style);
+    if (path.isEmpty()) {
+        const bool drives = style == AddressPath::Style::DriveLetters;
+        d->createMenu(names, drives ? d->driveIcon : d->folderIcon);
+        setPopupMode(QToolButton::InstantPopup);
+    } else if (!names.isEmpty()) {
+        d->createMenu(names, d->folderIcon);
+        setPopupMode(QToolButton::MenuButtonPopup);
+    }
+}
+
+bool AddressEntry::eventFilter(QObject *watched, QEvent *event)
+{
+    Q_D(AddressEntry);
+    QMenu *menu = this->menu();
+    if (menu && watched == menu && event->type() == QEvent::Show && d->isSplit()) {
+        d->placeMenu();
+        menu->hideTearOffMenu();
+        return true;
+    }
+    return QToolButton::eventFilter(watched, event);
+}
+
+void AddressEntry::mousePressEvent(QMouseEvent *event)
+{
+    Q_D(AddressEntry);
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    d->hovered = true;
+    setDown(true);
+    if (!menu() || popupMode() == QToolButton::DelayedPopup)
+        return;
+    d->setArrowHovered(d->arrowRect.contains(event->position().toPoint()));
+    if (!d->arrowHovered)
+        return;
+    d->menuShown = true;
+    // The menu's actions may delete the crumb: nothing may follow.
+    showMenu();
+}
+
+void AddressEntry::mouseMoveEvent(QMouseEvent *event)
+{
+    Q_D(AddressEntry);
+    event->accept();
+    d->setArrowHovered(d->arrowRect.contains(event->position().toPoint()));
+    QToolButton::mouseMoveEvent(event);
+}
+
+void AddressEntry::enterEvent(QEnterEvent *event)
+{
+    Q_D(AddressEntry);
+    d->hovered = true;
+    update();
+    QToolButton::enterEvent(event);
+}
+
+void AddressEntry::leaveEvent(QEvent *event)
+{
+    Q_D(AddressEntry);
+    d->hovered = false;
+    update();
+    QToolButton::leaveEvent(event);
+}
+
+void AddressEntry::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    Q_D(AddressEntry);
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing
+                           | QPainter::SmoothPixmapTransform);
+    if (d->hovered)
+        d->paintBackground(painter);
+    if (popupMode() != QToolButton::InstantPopup)
+        d->paintText(painter);
+    if (menu())
+        d->paintArrow(painter);
+}
+
+void AddressEntry::resizeEvent(QResizeEvent *event)
+{
+    Q_D(AddressEntry);
+    QToolButton::resizeEvent(event);
+    setFixedSize(d->measure());
+}
+
+} // namespace Norvane
