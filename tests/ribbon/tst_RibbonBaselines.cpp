@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Norvane contributors
 // SPDX-License-Identifier: MIT
 
+#include "Baseline.h"
 #include "RibbonWindow.h"
 #include "TestCase.h"
 
@@ -17,10 +18,7 @@
 
 using namespace Norvane;
 
-/*
-    Whole pages against pictures that were looked at. With NORVANE_UPDATE_BASELINES in the
-    environment the pictures are written anew: look at them before they are committed.
-*/
+// Whole pages against pictures that were looked at.
 class tst_RibbonBaselines : public TestCase
 {
     Q_OBJECT
@@ -31,28 +29,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-// The rasteriser may round an edge otherwise on another processor; a moved or missing line, letter
-// or icon differs by more, and in more places.
-constexpr int toleratedDifference = 24;
-constexpr double toleratedShare = 0.001;
-
-double differingShare(const QImage &one, const QImage &other)
-{
-    if (one.size() != other.size())
-        return 1;
-    qint64 differing = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QColor a = one.pixelColor(x, y);
-            const QColor b = other.pixelColor(x, y);
-            differing += qAbs(a.red() - b.red()) > toleratedDifference
-                || qAbs(a.green() - b.green()) > toleratedDifference
-                || qAbs(a.blue() - b.blue()) > toleratedDifference;
-        }
-    }
-    return double(differing) / (double(one.width()) * one.height());
-}
 
 QAction *addAction(QObject *owner, const QString &text, const QString &icon)
 {
@@ -128,19 +104,8 @@ void tst_RibbonBaselines::page()
     QVERIFY(window.open());
     const QImage actual = Gui::picture(window.bar).convertToFormat(QImage::Format_RGB32);
 
-    const QString name = QStringLiteral("%1@%2x.png")
-                             .arg(QLatin1StringView(QTest::currentDataTag()))
-                             .arg(qRound(window.devicePixelRatio()));
-    const QString path = QFINDTESTDATA("baselines") + u'/' + name;
-    if (qEnvironmentVariableIsSet("NORVANE_UPDATE_BASELINES"))
-        QVERIFY(actual.save(path));
-    const double share = differingShare(actual, QImage(path));
-    if (share > toleratedShare)
-        actual.save(name);
-    QVERIFY2(share <= toleratedShare,
-             qPrintable(QStringLiteral("%1 of the pixels differ from %2; what was painted is in %3")
-                            .arg(share)
-                            .arg(path, QDir::current().absoluteFilePath(name))));
+    const QString wrong = Baseline::compare(actual, QFINDTESTDATA("baselines"));
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
 NORVANE_TEST_MAIN(tst_RibbonBaselines)
