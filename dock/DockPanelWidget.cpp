@@ -225,7 +225,7 @@ void DockPanelWidget::setViewVisible(int index, bool visible)
 QMenu *DockPanelWidget::menu(QWidget *widget) const
 {
     Q_D(const DockPanelWidget);
-    for (const DockView *view : d->views) {
+    for (const QPointer<DockView> &view : d->views) {
         if (view && widget && view->widget() == widget)
             return view->menu();
     }

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include "DockPanel.h"
 #include "DockPanelWidget.h"
+#include "DockView.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>
@@ -12,9 +14,6 @@
 class QSplitter;
 
 namespace Norvane {
-
-class DockPanel;
-class DockView;
 
 class DockPanelWidgetPrivate
 {
@@ -32,7 +31,8 @@ public:
     QPointer<DockPanel> panel;
     QPointer<QStackedWidget> stackedWidget;
     bool minimized = false;
-    QList<DockView *> views;
+    // The application may delete a view.
+    QList<QPointer<DockView>> views;
     DockPanelWidget *q_ptr = nullptr;
 };
 

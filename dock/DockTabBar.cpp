@@ -56,13 +56,14 @@ DockTabBar::Sizes DockTabBar::sizesOf(int index) const
     if (m_knownCount != count() && (index <= 1 || index >= count() - 2))
         return measure();
     const Look look = lookOf(index);
-    auto sizes = m_sizes.constFind(look);
-    if (sizes == m_sizes.constEnd()) {
-        if (m_sizes.size() >= mostSizes)
-            m_sizes.clear();
-        sizes = m_sizes.insert(look, measure());
-    }
-    return *sizes;
+    const auto known = m_sizes.constFind(look);
+    if (known != m_sizes.constEnd())
+        return *known;
+    if (m_sizes.size() >= mostSizes)
+        m_sizes.clear();
+    const Sizes sizes = measure();
+    m_sizes.insert(look, sizes);
+    return sizes;
 }
 
 DockTabBar::Look DockTabBar::lookOf(int index) const

@@ -28,7 +28,7 @@ struct Icons
     QIcon collapse;
     QIcon menu;
 };
-Q_APPLICATION_STATIC(Icons, icons)
+Q_APPLICATION_STATIC(Icons, icons, )
 
 } // namespace
 

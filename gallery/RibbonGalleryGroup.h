@@ -64,9 +64,9 @@ public:
 
 Q_SIGNALS:
     //! Never emitted: who wants to know connects to the items.
-    void signalCollect(RibbonGalleryItem *item, bool collected);
+    void signalCollect(Norvane::RibbonGalleryItem *item, bool collected);
     //! A button was clicked that asks for the group to be moved to \a position.
-    void signalPositionChange(Position position);
+    void signalPositionChange(Norvane::RibbonGalleryGroup::Position position);
 
 protected:
     RibbonGalleryGroup(RibbonGalleryGroupPrivate &dd, const QIcon &icon, const QString &title,
