@@ -5,6 +5,8 @@
 
 #include "AddressPath.h"
 
+#include <QtCore/QApplicationStatic>
+#include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPixmapCache>
@@ -16,6 +18,24 @@
 namespace Norvane {
 
 namespace {
+
+// All crumbs share what the style gives: asking it takes longer than building a crumb.
+struct StyleIcons
+{
+    void update()
+    {
+        if (style == QApplication::style())
+            return;
+        style = QApplication::style();
+        drive = style->standardIcon(QStyle::SP_DriveHDIcon);
+        folder = style->standardIcon(QStyle::SP_DirIcon);
+    }
+
+    QPointer<QStyle> style;
+    QIcon drive;
+    QIcon folder;
+};
+Q_APPLICATION_STATIC(StyleIcons, styleIcons)
 
 // An icon renders its file anew for every object that holds it, so the pixmap is kept by name.
 QPixmap arrowPixmap(const QString &file, QSize size, qreal devicePixelRatio)
@@ -32,15 +52,16 @@ QPixmap arrowPixmap(const QString &file, QSize size, qreal devicePixelRatio)
 } // namespace
 
 AddressEntryPrivate::AddressEntryPrivate()
-    : driveIcon(QApplication::style()->standardIcon(QStyle::SP_DriveHDIcon))
-    , folderIcon(QApplication::style()->standardIcon(QStyle::SP_DirIcon))
-    , borderPen(QColor(51, 51, 51), 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
+    : borderPen(QColor(51, 51, 51), 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin)
     , normalBrush(QColor(255, 255, 255))
     , lightBrush(QColor(245, 245, 245))
     , pressedBrush(QColor(217, 217, 217))
     , activeBrush(QColor(180, 222, 255))
 {
     borderPen.setCosmetic(true);
+    styleIcons->update();
+    driveIcon = styleIcons->drive;
+    folderIcon = styleIcons->folder;
 }
 
 AddressEntryPrivate::~AddressEntryPrivate() = default;
@@ -86,8 +107,14 @@ void AddressEntryPrivate::createMenu(const QStringList &names, const QIcon &icon
     Q_Q(AddressEntry);
     auto *menu = new QMenu(q);
     q->setMenu(menu);
-    for (const QString &name : names)
-        menu->addAction(icon, name);
+    // From the end: a menu looks for the action before which it inserts another, and of ten
+    // thousand it would look at all, each time.
+    QAction *next = nullptr;
+    for (auto name = names.crbegin(); name != names.crend(); ++name) {
+        auto *action = new QAction(icon, *name, menu);
+        menu->insertAction(next, action);
+        next = action;
+    }
     menu->installEventFilter(q);
     // Columns would run out of the screen's side. A sheet takes a while, and few menus are opened.
     QObject::connect(

@@ -95,11 +95,15 @@ void AddressStripPrivate::rebuild(int index)
         q->clearFocus();
         q->clear();
     }
+    // All are laid out at once: a strip that is seen would do so for every crumb that it shows.
+    q->layout()->setEnabled(false);
     addRootIcon();
     addEntry(QString(), QString());
     const QList<AddressPath::Crumb> crumbs = AddressPath::crumbs(path, AddressPath::nativeStyle());
     for (const AddressPath::Crumb &crumb : crumbs)
         addEntry(crumb.label, crumb.path);
+    q->layout()->setEnabled(true);
+    q->layout()->activate();
     updateButtons();
     Q_EMIT q->signalPathChanged(QString(path));
 }
@@ -118,6 +122,7 @@ void AddressStripPrivate::addRootIcon()
     label->setFixedSize(size, size);
     label->setMargin(margin);
     q->layout()->addWidget(label);
+    label->show();
 }
 
 void AddressStripPrivate::addEntry(const QString &text, const QString &path)
@@ -129,6 +134,7 @@ void AddressStripPrivate::addEntry(const QString &text, const QString &path)
     entry->setFocusPolicy(Qt::NoFocus);
     entry->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     q->layout()->addWidget(entry);
+    entry->show();
     QObject::connect(entry, &AddressEntry::signalClicked, q, &AddressStrip::setPath);
 }
 
