@@ -5,6 +5,7 @@
 
 #include "DockPanel.h"
 #include "DockView.h"
+#include "StyleChangeEater.h"
 
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QSplitter>
@@ -127,6 +128,7 @@ int DockPanelWidget::addView(QWidget *widget, const QIcon &icon, const QString &
     page->setHandleWidth(0);
     page->addWidget(d->createView(widget, text));
     page->setCollapsible(0, false);
+    const StyleChangeEater eater;
     return d->stackedWidget->addWidget(page);
 }
 

@@ -19,6 +19,13 @@ DockViewPrivate::DockViewPrivate()
 
 DockViewPrivate::~DockViewPrivate() = default;
 
+bool DockViewPrivate::isOffstage() const
+{
+    Q_Q(const DockView);
+    const QWidget *page = q->parentWidget();
+    return page && page->isHidden() && !q->testAttribute(Qt::WA_WState_Polished);
+}
+
 DockView::DockView(QWidget *parent)
     : DockView(*new DockViewPrivate, parent)
 {
@@ -84,6 +91,20 @@ void DockView::setCollapseButtonVisible(bool visible)
 {
     Q_D(DockView);
     d->title->setCollapseButtonVisible(visible);
+}
+
+// A view on a page that is not in front is measured when it has its style. Asked before, it would
+// be polished for the answer, and again when its page comes under the sheet.
+QSize DockView::sizeHint() const
+{
+    Q_D(const DockView);
+    return d->isOffstage() ? QSize(0, 0) : QFrame::sizeHint();
+}
+
+QSize DockView::minimumSizeHint() const
+{
+    Q_D(const DockView);
+    return d->isOffstage() ? QSize(0, 0) : QFrame::minimumSizeHint();
 }
 
 bool DockView::event(QEvent *event)

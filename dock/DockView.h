@@ -39,6 +39,9 @@ public:
     int titleHeight() const;
     void setCollapseButtonVisible(bool visible);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     //! "minimize to bar" was chosen.
     void signalMinimize();

@@ -19,6 +19,8 @@ public:
     DockViewPrivate();
     virtual ~DockViewPrivate();
 
+    bool isOffstage() const;
+
     DockTitle *title;
     QPointer<QWidget> widget;
     DockView *q_ptr = nullptr;
