@@ -164,12 +164,17 @@ void AddressEntryPrivate::paintBackground(QPainter &painter) const
     } else {
         painter.fillRect(q->rect(), q->isDown() ? pressedBrush : normalBrush);
     }
-    painter.translate(0.5, 0.5);
+    // A cosmetic pen is one pixel of the screen wide, so it is these that are halved.
+    const qreal pixel = 1 / q->devicePixelRatio();
+    painter.translate(pixel / 2, pixel / 2);
     painter.setPen(borderPen);
-    painter.drawLine(0, 0, 0, height - 1);
+    const auto drawBorder = [&painter, bottom = height - pixel](qreal x) {
+        painter.drawLine(QPointF(x, 0), QPointF(x, bottom));
+    };
+    drawBorder(0);
     if (isSplit())
-        painter.drawLine(textPartWidth(), 0, textPartWidth(), height - 1);
-    painter.drawLine(width - 1, 0, width - 1, height - 1);
+        drawBorder(textPartWidth());
+    drawBorder(width - pixel);
     painter.restore();
 }
 
