@@ -24,7 +24,7 @@ namespace Norvane {
 
 namespace {
 
-// Keeps each crumb at its place and lets the strip clip the row. A plain box would squeeze a row
+// Stands the crumbs side by side and lets the strip clip the row. A plain box would squeeze a row
 // that is too long, and crumbs, which keep their size, would lie on each other.
 class CrumbLayout : public QHBoxLayout
 {
@@ -33,13 +33,15 @@ public:
 
     void setGeometry(const QRect &rect) override
     {
-        QRect row = rect;
-        const int width = qMax(rect.width(), sizeHint().width());
-        if (parentWidget()->isRightToLeft())
-            row.setLeft(rect.right() + 1 - width);
-        else
-            row.setWidth(width);
-        QHBoxLayout::setGeometry(row);
+        QLayout::setGeometry(rect);
+        QPoint start = rect.topLeft();
+        for (int i = 0; i < count(); ++i) {
+            const QSize size = itemAt(i)->sizeHint();
+            const QPoint centred(start.x(), start.y() + (rect.height() - size.height()) / 2);
+            itemAt(i)->widget()->setGeometry(
+                QStyle::visualRect(parentWidget()->layoutDirection(), rect, QRect(centred, size)));
+            start.rx() += size.width();
+        }
     }
 };
 
@@ -322,11 +324,9 @@ void AddressStrip::focusOutEvent(QFocusEvent *event)
     clear();
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::ArrowCursor);
-    const QPointer<AddressStrip> that = this;
     if (!d->rebuilding)
         d->navigate(d->path);
-    if (that)
-        QLineEdit::focusOutEvent(event);
+    QLineEdit::focusOutEvent(event);
 }
 
 } // namespace Norvane
