@@ -21,7 +21,6 @@ namespace Norvane {
 namespace {
 
 constexpr int RoomBelowPopup = 30;
-constexpr int ScrollBarWidth = 17;
 constexpr int MenuFrame = 2;
 // More cells than fit on any screen.
 constexpr int MaximumPlaceholders = 1000;
@@ -141,7 +140,7 @@ void RibbonGalleryPrivate::openPopup()
     const int height = qMin(wanted, room());
     popup->setFixedHeight(height);
     popup->verticalScrollBar()->setValue(0);
-    popup->setFixedWidth(q->width() + (height < wanted ? ScrollBarWidth : 0));
+    popup->setFixedWidth(q->width() + (height < wanted ? RibbonGalleryPopup::ScrollBarWidth : 0));
     const QPoint corner = q->mapToGlobal(QPoint());
     popupMenu->popup(corner);
     popupMenu->move(corner);
@@ -155,7 +154,7 @@ void RibbonGalleryPrivate::fitPopup(int height)
     popup->setFixedHeight(fitting);
     popupMenu->setFixedHeight(fitting + MenuFrame);
     const bool scrolls = fitting < popup->computedHeight(false);
-    popup->setFixedWidth(q->width() + (scrolls ? ScrollBarWidth : 0));
+    popup->setFixedWidth(q->width() + (scrolls ? RibbonGalleryPopup::ScrollBarWidth : 0));
     popupMenu->setFixedWidth(popup->width() + MenuFrame);
 }
 

@@ -19,7 +19,6 @@ constexpr int SearchHeight = 32;
 constexpr int EmptyHeight = 62;
 constexpr int FirstRowHeight = 98;
 constexpr int RowHeight = 74;
-constexpr int ScrollBarWidth = 17;
 
 } // namespace
 
@@ -140,7 +139,7 @@ void RibbonGalleryPopupPrivate::updateHeight()
     const int height = q->computedHeight(false);
     contentFrame->setFixedHeight(height);
     Q_EMIT q->signalHeightChanged(height);
-    const int barWidth = height > q->height() ? ScrollBarWidth : 0;
+    const int barWidth = height > q->height() ? RibbonGalleryPopup::ScrollBarWidth : 0;
     contentFrame->setFixedWidth(qMax(0, q->width() - barWidth));
     collectedGroup->updateLayout();
 }

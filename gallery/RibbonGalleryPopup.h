@@ -27,6 +27,9 @@ class RibbonGalleryPopup : public QScrollArea
     Q_DISABLE_COPY_MOVE(RibbonGalleryPopup)
 
 public:
+    //! What the popup is wider than its gallery when it has to scroll.
+    static constexpr int ScrollBarWidth = 17;
+
     explicit RibbonGalleryPopup(QWidget *parent = nullptr);
     ~RibbonGalleryPopup() override;
 
