@@ -13,16 +13,15 @@ namespace {
 constexpr char Separator = 0x7C;
 constexpr qsizetype SizesLength = 3 * sizeof(qint32);
 
-// A splitter's state: magic, version and number of panes; the panes' sizes; whether panes collapse,
-// the handles' width, whether dragging is opaque, and the orientation. A later Qt may add more.
+// A splitter's state: magic, version and number of panes; the panes' sizes; whether panes collapse
+// and the handles' width; whether dragging is opaque; the orientation; whether opaque was asked
+// for.
 constexpr qsizetype HeadLength = 3 * sizeof(qint32);
-constexpr qsizetype CollapsibleAt = HeadLength + SizesLength;
-constexpr qsizetype HandleWidthAt = CollapsibleAt + 1;
-constexpr qsizetype OpaqueAt = HandleWidthAt + sizeof(qint32);
+constexpr qsizetype SettingsAt = HeadLength + SizesLength;
+constexpr qsizetype SettingsLength = 1 + sizeof(qint32);
+constexpr qsizetype OpaqueAt = SettingsAt + SettingsLength;
 constexpr qsizetype OrientationAt = OpaqueAt + 1;
-constexpr qsizetype KnownLength = OrientationAt + sizeof(qint32);
-
-constexpr int WidestHandle = 64;
+constexpr qsizetype OpaqueSetAt = OrientationAt + sizeof(qint32);
 
 qint32 integerAt(const QByteArray &splitter, qsizetype position)
 {
@@ -34,23 +33,42 @@ bool isFlag(char byte)
     return byte == 0 || byte == 1;
 }
 
-bool isSplitterState(const QByteArray &splitter, const QByteArray &current)
+bool isKnown(const QByteArray &splitter)
 {
-    if (splitter.size() != current.size() || splitter.size() < KnownLength
-        || splitter.first(HeadLength) != current.first(HeadLength))
+    if (splitter.size() <= OpaqueSetAt)
         return false;
-    qint64 sum = 0;
-    for (qsizetype at = HeadLength; at < CollapsibleAt; at += sizeof(qint32)) {
+    for (qsizetype at = HeadLength; at < SettingsAt; at += sizeof(qint32)) {
         const qint32 size = integerAt(splitter, at);
         // Qt writes -1 for a pane that was hidden from the beginning.
         if (size < -1 || size > QWIDGETSIZE_MAX)
             return false;
-        sum += qMax(size, 0);
     }
-    const qint32 handleWidth = integerAt(splitter, HandleWidthAt);
-    return sum > 0 && isFlag(splitter.at(CollapsibleAt)) && handleWidth >= -1
-        && handleWidth <= WidestHandle && isFlag(splitter.at(OpaqueAt))
-        && integerAt(splitter, OrientationAt) == integerAt(current, OrientationAt);
+    return isFlag(splitter.at(SettingsAt)) && isFlag(splitter.at(OpaqueAt))
+        && integerAt(splitter, OrientationAt) == Qt::Horizontal && isFlag(splitter.at(OpaqueSetAt));
+}
+
+bool hasSizes(const QByteArray &splitter)
+{
+    for (qsizetype at = HeadLength; at < SettingsAt; at += sizeof(qint32)) {
+        if (integerAt(splitter, at) > 0)
+            return true;
+    }
+    return false;
+}
+
+bool isSplitterState(const QByteArray &splitter, const QByteArray &current)
+{
+    if (splitter.size() != current.size()
+        || splitter.first(HeadLength) != current.first(HeadLength))
+        return false;
+    // What a later Qt writes in another way only its splitter can read.
+    if (!isKnown(current))
+        return true;
+    // Panes that do not collapse could not go to their bars any more, and a handle stays as wide as
+    // a state has made it.
+    return isKnown(splitter) && hasSizes(splitter)
+        && splitter.sliced(SettingsAt, SettingsLength)
+        == current.sliced(SettingsAt, SettingsLength);
 }
 
 bool isSize(qint32 size)

@@ -36,12 +36,21 @@ namespace {
 
 // Where things stand in the state of a splitter with three panes.
 constexpr qsizetype sizesAt = 12;
+constexpr qsizetype collapsibleAt = 24;
 constexpr qsizetype handleWidthAt = 25;
+constexpr qsizetype opaqueAt = 29;
 constexpr qsizetype orientationAt = 30;
+constexpr qsizetype opaqueSetAt = 34;
 
 QByteArray with(QByteArray bytes, qsizetype position, qint32 value)
 {
     qToBigEndian(value, bytes.data() + position);
+    return bytes;
+}
+
+QByteArray withByte(QByteArray bytes, qsizetype position, char value)
+{
+    bytes[position] = value;
     return bytes;
 }
 
@@ -164,6 +173,12 @@ void tst_DockState::readsTheLayoutOfALaterQt()
     const QByteArray later = with(splitter.saveState(), 4, 9) + "later";
     QVERIFY(DockState::fromBytes(DockState{later, 1, 2, 3}.toBytes(), later));
     QVERIFY(!DockState::fromBytes(DockState{later, 1, 2, 3}.toBytes(), splitter.saveState()));
+    QVERIFY(
+        !DockState::fromBytes(DockState{with(later, orientationAt, 2), 1, 2, 3}.toBytes(), later));
+    // One that stands in another order is left to its splitter, as long as the size is right.
+    const QByteArray other = later.first(12) + QByteArray(30, '\x15');
+    QVERIFY(DockState::fromBytes(DockState{other, 1, 2, 3}.toBytes(), other));
+    QVERIFY(!DockState::fromBytes(DockState{other + '\x15', 1, 2, 3}.toBytes(), other));
 }
 
 void tst_DockState::refusesWhatNoSplitterWrites_data()
@@ -172,6 +187,7 @@ void tst_DockState::refusesWhatNoSplitterWrites_data()
     QSplitter splitter;
     for (int i = 0; i < 3; ++i)
         splitter.addWidget(new QWidget);
+    splitter.setHandleWidth(0);
     splitter.resize(600, 100);
     splitter.show();
     const QByteArray good = splitter.saveState();
@@ -190,6 +206,11 @@ void tst_DockState::refusesWhatNoSplitterWrites_data()
     row("never laid out", with(with(with(good, sizesAt, -1), sizesAt + 4, -1), sizesAt + 8, -1));
     row("huge handle", with(good, handleWidthAt, 0x40000000));
     row("wide handle", with(good, handleWidthAt, 2000));
+    row("another handle", with(good, handleWidthAt, 7));
+    row("panes that do not collapse", withByte(good, collapsibleAt, 0));
+    row("neither collapsible nor not", withByte(good, collapsibleAt, 2));
+    row("neither opaque nor not", withByte(good, opaqueAt, 2));
+    row("neither asked for nor not", withByte(good, opaqueSetAt, 5));
     row("negative handle", with(good, handleWidthAt, -5));
     row("vertical", with(good, orientationAt, Qt::Vertical));
     row("no orientation", with(good, orientationAt, 0));
