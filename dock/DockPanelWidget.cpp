@@ -43,7 +43,8 @@ DockView *DockPanelWidgetPrivate::createView(QWidget *widget, const QString &tex
             return;
         Q_EMIT q->signalMinimized(true);
         minimized = true;
-        panel->setChecked(panel->checkedId(), false);
+        if (panel)
+            panel->setChecked(panel->checkedId(), false);
     });
     return view;
 }
@@ -51,7 +52,7 @@ DockView *DockPanelWidgetPrivate::createView(QWidget *widget, const QString &tex
 void DockPanelWidgetPrivate::onButton(int index)
 {
     Q_Q(DockPanelWidget);
-    if (index >= 0)
+    if (index >= 0 && stackedWidget)
         stackedWidget->setCurrentIndex(index);
     if (minimized && index >= 0) {
         Q_EMIT q->signalMinimized(false);
@@ -123,7 +124,10 @@ int DockPanelWidget::addView(QWidget *widget, const QIcon &icon, const QString &
     Q_D(DockPanelWidget);
     if (!d->stackedWidget || !d->panel)
         return -1;
-    d->panel->addButton(text, icon);
+    const int button = d->panel->addButton(text, icon);
+    // The bar checks its first button, which would then take a click to do nothing.
+    if (d->minimized)
+        d->panel->setChecked(button, false);
     auto *page = new QSplitter(d->panel->orientation());
     page->setHandleWidth(0);
     page->addWidget(d->createView(widget, text));

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void minimizesWithAClickOnTheCurrentButton();
     void minimizesWithTheMenu();
     void emitsNothingWhenItIsToldToMinimize();
+    void staysMinimizedWithItsFirstView();
     void hasNoCurrentPageWithoutWidth();
     void makesAPageCurrent();
     void hidesTheViewThatIsShown();
@@ -107,8 +108,10 @@ struct Model
 
     void add()
     {
-        if (views++ == 0)
-            current = checked = 0;
+        if (views++ > 0)
+            return;
+        current = 0;
+        checked = minimized ? -1 : 0;
     }
 
     void click(int index)
@@ -353,6 +356,20 @@ void tst_DockPanelWidget::emitsNothingWhenItIsToldToMinimize()
     QCOMPARE(host.bar->checkedId(), 1);
     QCOMPARE(minimized.count(), 0);
     QCOMPARE(current.count(), 0);
+}
+
+void tst_DockPanelWidget::staysMinimizedWithItsFirstView()
+{
+    Host host;
+    host.panelWidget->setMinimized(true);
+    host.add();
+    QVERIFY(host.panelWidget->isMinimized());
+    QCOMPARE(host.bar->checkedId(), -1);
+    QVERIFY(Gui::open(&host));
+    QSignalSpy minimized(host.panelWidget, &DockPanelWidget::signalMinimized);
+    Gui::click(host.button(0));
+    QCOMPARE(minimized, QList<QVariantList>({{false}}));
+    QCOMPARE(host.bar->checkedId(), 0);
 }
 
 void tst_DockPanelWidget::hasNoCurrentPageWithoutWidth()
