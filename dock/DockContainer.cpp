@@ -13,32 +13,24 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QSplitter>
-#include <QtWidgets/QStackedWidget>
-
-#include <numeric>
 
 namespace Norvane {
 
 namespace {
 
-// Gives the panes their shares, whatever they asked for before they had their style and content.
-void arrange(QSplitter *splitter)
+// What a pane without a size of its own is to have, by its stretch factor.
+int shareOf(const QSplitter *splitter, const QWidget *pane)
 {
     const bool across = splitter->orientation() == Qt::Horizontal;
-    QList<int> parts;
-    for (int i = 0; i < splitter->count(); ++i) {
-        const QWidget *pane = splitter->widget(i);
-        const auto *stack = qobject_cast<const QStackedWidget *>(pane);
-        const bool seen = !pane->isHidden() && !(stack && stack->count() == 0);
-        const QSizePolicy policy = pane->sizePolicy();
-        parts << (seen ? (across ? policy.horizontalStretch() : policy.verticalStretch()) : 0);
-    }
-    const int sum = qMax(1, std::accumulate(parts.cbegin(), parts.cend(), 0));
+    const auto factor = [across](const QWidget *widget) {
+        const QSizePolicy policy = widget->sizePolicy();
+        return across ? policy.horizontalStretch() : policy.verticalStretch();
+    };
+    int sum = 0;
+    for (int i = 0; i < splitter->count(); ++i)
+        sum += factor(splitter->widget(i));
     const int room = across ? splitter->width() : splitter->height();
-    // Beside one part in fifty every pane has the size that it needs at least.
-    for (int &part : parts)
-        part = part > 0 ? qMax(1, room * part / sum) : 0;
-    splitter->setSizes(parts);
+    return qMax(1, room * factor(pane) / qMax(1, sum));
 }
 
 } // namespace
@@ -121,6 +113,42 @@ void DockContainerPrivate::onInnerMoved()
         bottomHeight = height;
 }
 
+bool DockContainerPrivate::isAway(const QWidget *pane) const
+{
+    for (const DockPanelWidget *panelWidget :
+         {leftPanelWidget.data(), bottomPanelWidget.data(), rightPanelWidget.data()}) {
+        if (panelWidget && panelWidget->stackedWidget() == pane)
+            return panelWidget->isMinimized() || panelWidget->count() == 0;
+    }
+    return false;
+}
+
+void DockContainerPrivate::arrange(QSplitter *splitter) const
+{
+    // Whatever the panes asked for before they had their style and content. A hidden pane has its
+    // share too, for when it is shown.
+    QList<int> sizes;
+    for (int i = 0; i < splitter->count(); ++i) {
+        const QWidget *pane = splitter->widget(i);
+        sizes << (isAway(pane) ? 0 : shareOf(splitter, pane));
+    }
+    splitter->setSizes(sizes);
+}
+
+void DockContainerPrivate::onFirstView(QSplitter *splitter, const QWidget *pane) const
+{
+    const int index = splitter->indexOf(const_cast<QWidget *>(pane));
+    const int centre = splitter->indexOf(splitter == outerSplitter ? centreWidget : contentWidget);
+    QList<int> sizes = splitter->sizes();
+    // Before it is shown all panes are still to be arranged, and a restored size stays.
+    if (!wasShown || index < 0 || centre < 0 || (sizes.at(index) > 0 && !isAway(pane)))
+        return;
+    sizes[centre] += sizes.at(index);
+    sizes[index] = isAway(pane) ? 0 : shareOf(splitter, pane);
+    sizes[centre] -= sizes.at(index);
+    splitter->setSizes(sizes);
+}
+
 void DockContainerPrivate::minimizeSide(int pane, qint32 *width, bool minimized)
 {
     QList<int> sizes = outerSplitter->sizes();
@@ -132,10 +160,8 @@ void DockContainerPrivate::minimizeSide(int pane, qint32 *width, bool minimized)
         sizes[pane] = 0;
     } else {
         // A pane that was dragged to nothing at once has no width to go back to.
-        if (*width == 0)
-            *width = outerSplitter->widget(pane)->sizeHint().width();
-        sizes[pane] = *width;
-        sizes[1] -= *width;
+        sizes[pane] = *width > 0 ? *width : shareOf(outerSplitter, outerSplitter->widget(pane));
+        sizes[1] -= sizes.at(pane);
     }
     outerSplitter->setSizes(sizes);
 }
@@ -153,10 +179,17 @@ void DockContainerPrivate::minimizeBottom(bool minimized)
         sizes[1] = 0;
     } else {
         const int height = innerSplitter->height();
-        if (contentWidget->isVisible() && (bottomHeight == 0 || bottomHeight == height))
+        // A height from a larger window would leave nothing of the content.
+        if (contentWidget->isVisible() && (bottomHeight == 0 || bottomHeight >= height))
             bottomHeight = height / 4;
-        sizes[1] = bottomHeight;
-        sizes[0] -= bottomHeight;
+        if (bottomHeight > 0) {
+            sizes[1] = bottomHeight;
+            sizes[0] -= bottomHeight;
+        } else {
+            // Alone in the column the pane has all of it, until the content comes.
+            sizes = {shareOf(innerSplitter, innerSplitter->widget(0)),
+                     shareOf(innerSplitter, innerSplitter->widget(1))};
+        }
     }
     innerSplitter->setSizes(sizes);
 }
@@ -171,17 +204,22 @@ void DockContainerPrivate::setContentVisible(bool visible)
         return;
     }
     contentWidget->show();
-    if (contentWidget->height() != 0 || hiddenContentHeight == 0)
-        return;
     QList<int> sizes = innerSplitter->sizes();
     if (sizes.size() != 2)
+        return;
+    const bool minimized = bottomPanelWidget && bottomPanelWidget->isMinimized();
+    // A splitter lets no pane that is alone stay collapsed.
+    if (minimized && sizes.at(1) != 0) {
+        innerSplitter->setSizes({innerSplitter->height(), 0});
+        return;
+    }
+    if (contentWidget->height() != 0 || hiddenContentHeight == 0)
         return;
     if (sizes.at(1) != 0) {
         sizes[0] = hiddenContentHeight;
         sizes[1] -= hiddenContentHeight;
     }
-    if (bottomPanelWidget && !bottomPanelWidget->isMinimized()
-        && (sizes.at(0) == 0 || sizes.at(1) == 0)) {
+    if (!minimized && (sizes.at(0) == 0 || sizes.at(1) == 0)) {
         const int height = innerSplitter->height();
         sizes[0] = height * 3 / 4;
         sizes[1] = height - sizes.at(0);
@@ -217,6 +255,16 @@ DockContainer::DockContainer(DockContainerPrivate &dd, QWidget *parent)
             [d](bool minimized) { d->minimizeSide(2, &d->rightWidth, minimized); });
     connect(d->bottomPanelWidget, &DockPanelWidget::signalMinimized, this,
             [d](bool minimized) { d->minimizeBottom(minimized); });
+    for (DockPanelWidget *panelWidget :
+         {d->leftPanelWidget.data(), d->bottomPanelWidget.data(), d->rightPanelWidget.data()}) {
+        connect(panelWidget, &DockPanelWidget::signalCurrentIndexChanged, this, [d, panelWidget] {
+            if (panelWidget->count() == 1) {
+                d->onFirstView(panelWidget == d->bottomPanelWidget ? d->innerSplitter
+                                                                   : d->outerSplitter,
+                               panelWidget->stackedWidget());
+            }
+        });
+    }
     connect(d->contentWidget, &DockContentWidget::signalVisibleChanged, this,
             [d](bool visible) { d->setContentVisible(visible); });
 }
@@ -248,9 +296,8 @@ void DockContainer::setupMainWindow(QMainWindow *window)
     if (!window || window == d->mainWindow)
         return;
     d->mainWindow = window;
-    if (!d->statusBar) {
+    if (!d->statusBar)
         d->statusBar = new DockStatusBar;
-    }
     d->statusBar->setPanel(d->bottomPanelWidget ? d->bottomPanelWidget->panel() : nullptr);
     window->setStatusBar(d->statusBar);
 }
@@ -317,9 +364,8 @@ void DockContainer::showEvent(QShowEvent *event)
         return;
     d->wasShown = true;
     if (!d->restored)
-        arrange(d->outerSplitter);
-    if (!d->contentWidget->isHidden())
-        arrange(d->innerSplitter);
+        d->arrange(d->outerSplitter);
+    d->arrange(d->innerSplitter);
 }
 
 bool DockContainer::eventFilter(QObject *watched, QEvent *event)

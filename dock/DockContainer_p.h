@@ -25,6 +25,9 @@ public:
     void build();
     void onOuterMoved();
     void onInnerMoved();
+    void arrange(QSplitter *splitter) const;
+    void onFirstView(QSplitter *splitter, const QWidget *pane) const;
+    bool isAway(const QWidget *pane) const;
     void minimizeSide(int pane, qint32 *width, bool minimized);
     void minimizeBottom(bool minimized);
     void setContentVisible(bool visible);

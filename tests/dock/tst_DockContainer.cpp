@@ -14,6 +14,7 @@
 #include <QtCore/QtEndian>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTextEdit>
@@ -31,9 +32,16 @@ private Q_SLOTS:
     void hidesItsContentUntilThereIsATab();
     void comesUpWithTheShares_data();
     void comesUpWithTheShares();
+    void givesViewsThatComeLaterTheirShare();
+    void comesUpWithMinimizedPanels_data();
+    void comesUpWithMinimizedPanels();
+    void comesUpWithHiddenPanes();
     void minimizesASidePanel();
     void minimizesTheBottomPanel();
     void givesTheBottomPanelAQuarter();
+    void keepsTheContentWithAHeightFromALargerWindow();
+    void givesTheBottomPanelTheColumnOfNoContent();
+    void keepsTheCentreWithAWidthFromALargerWindow();
     void sharesTheColumnWhenTheContentComesBack();
     void opensTheBottomPanelWhenTheContentGoes();
     void marksADraggedSidePanel();
@@ -49,6 +57,7 @@ private Q_SLOTS:
     void marksRestoredPanelsWithoutWidth();
     void linesTheBarUpAfterARestore();
     void isRestoredBeforeItIsShown();
+    void isRestoredBeforeItHasViews();
     void keepsTwoContainersApart();
     void diesInAnyOrder_data();
     void diesInAnyOrder();
@@ -199,6 +208,108 @@ void tst_DockContainer::comesUpWithTheShares()
     QVERIFY(window.bottom->stackedWidget()->height() > 0);
 }
 
+void tst_DockContainer::givesViewsThatComeLaterTheirShare()
+{
+    DockWindow window(0);
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    const int width = window.outer()->width();
+    QCOMPARE(window.outer()->sizes(), QList<int>({0, width, 0}));
+    for (auto *panelWidget : {window.left, window.right, window.bottom}) {
+        panelWidget->addView(new QWidget, QIcon(), u"view"_s);
+        settle();
+        QVERIFY(!panelWidget->isMinimized());
+        QCOMPARE(panelWidget->currentIndex(), 0);
+        QVERIFY(panelWidget->isViewVisible(0));
+    }
+    QCOMPARE(window.outer()->sizes(), QList<int>({width / 7, width - 2 * (width / 7), width / 7}));
+    QVERIFY(window.bottom->stackedWidget()->height() > 0);
+
+    // A second view changes nothing.
+    const QList<int> sizes{200, width - 350, 150};
+    window.outer()->setSizes(sizes);
+    window.left->addView(new QWidget, QIcon(), u"view"_s);
+    settle();
+    QCOMPARE(window.outer()->sizes(), sizes);
+}
+
+void tst_DockContainer::comesUpWithMinimizedPanels_data()
+{
+    QTest::addColumn<bool>("byMenu");
+    QTest::addColumn<bool>("viewsLater");
+    QTest::addColumn<bool>("tab");
+    for (bool tab : {true, false}) {
+        const QByteArray content = tab ? "with a tab" : "no tab";
+        QTest::addRow("told to, %s", content.constData()) << false << false << tab;
+        QTest::addRow("by menu, %s", content.constData()) << true << false << tab;
+        QTest::addRow("views later, %s", content.constData()) << false << true << tab;
+    }
+}
+
+void tst_DockContainer::comesUpWithMinimizedPanels()
+{
+    QFETCH(bool, byMenu);
+    QFETCH(bool, viewsLater);
+    QFETCH(bool, tab);
+    DockWindow window(0);
+    if (tab)
+        window.addTab();
+    const QList<DockPanelWidget *> panels{window.left, window.right, window.bottom};
+    const auto addViews = [&] {
+        for (auto *panelWidget : panels) {
+            auto *widget = new QTextEdit;
+            panelWidget->addView(widget, QIcon(), u"view"_s);
+            if (byMenu)
+                panelWidget->menu(widget)->actions().constFirst()->trigger();
+        }
+    };
+    if (!viewsLater)
+        addViews();
+    if (!byMenu) {
+        for (auto *panelWidget : panels)
+            panelWidget->setMinimized(true);
+    }
+    QVERIFY(Gui::open(&window));
+    if (viewsLater)
+        addViews();
+    settle();
+    QCOMPARE(window.outer()->sizes(), QList<int>({0, window.outer()->width(), 0}));
+    if (!tab) {
+        // Alone in the column, the bottom panel is seen all the same.
+        QCOMPARE(window.bottom->stackedWidget()->height(), window.inner()->height());
+        window.addTab();
+        settle();
+    }
+    QCOMPARE(window.inner()->sizes(), QList<int>({window.inner()->height(), 0}));
+    for (auto *panelWidget : panels) {
+        QVERIFY(panelWidget->isMinimized());
+        QVERIFY(!DockWindow::button(panelWidget, 0)->isChecked());
+        Gui::click(DockWindow::button(panelWidget, 0));
+        QVERIFY(!panelWidget->isMinimized());
+    }
+    settle();
+    const int width = window.outer()->width();
+    QCOMPARE(window.outer()->sizes(), QList<int>({width / 7, width - 2 * (width / 7), width / 7}));
+    const int height = window.inner()->height();
+    QCOMPARE(window.bottom->stackedWidget()->height(), height / 4);
+}
+
+void tst_DockContainer::comesUpWithHiddenPanes()
+{
+    DockWindow window;
+    window.addTab();
+    window.container->setAllDockViewVisible(false);
+    QVERIFY(Gui::open(&window));
+    const int width = window.outer()->width();
+    QCOMPARE(window.content->width(), width);
+    window.container->setAllDockViewVisible(true);
+    settle();
+    const QList<int> sizes = window.outer()->sizes();
+    for (int pane : {0, 2})
+        QVERIFY2(qAbs(sizes.at(pane) - width / 7) <= 2, qPrintable(QDebug::toString(sizes)));
+    QVERIFY(window.bottom->stackedWidget()->height() > 0);
+}
+
 void tst_DockContainer::minimizesASidePanel()
 {
     for (int pane : {0, 2}) {
@@ -262,6 +373,64 @@ void tst_DockContainer::givesTheBottomPanelAQuarter()
         Gui::click(DockWindow::button(window.bottom, 0));
         QCOMPARE(window.inner()->height(), height);
         QCOMPARE(window.inner()->sizes(), QList<int>({height - height / 4, height / 4}));
+    }
+}
+
+void tst_DockContainer::keepsTheContentWithAHeightFromALargerWindow()
+{
+    DockWindow window;
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    window.inner()->setSizes({100, window.inner()->height() - 100});
+    Gui::click(DockWindow::button(window.bottom, 0));
+    window.resize(600, 300);
+    settle();
+    const int height = window.inner()->height();
+    QVERIFY(remembered(window.container->saveState(), 1) > height);
+    Gui::click(DockWindow::button(window.bottom, 0));
+    QCOMPARE(window.inner()->sizes(), QList<int>({height - height / 4, height / 4}));
+    QCOMPARE(window.size(), QSize(600, 300));
+}
+
+void tst_DockContainer::givesTheBottomPanelTheColumnOfNoContent()
+{
+    DockWindow window;
+    QVERIFY(Gui::open(&window));
+    const QByteArray nothingRemembered = window.container->saveState();
+    Gui::click(DockWindow::button(window.bottom, 0));
+    window.container->restoreState(nothingRemembered);
+    Gui::click(DockWindow::button(window.bottom, 0));
+    QCOMPARE(window.bottom->stackedWidget()->height(), window.inner()->height());
+    window.addTab();
+    settle();
+    QVERIFY(window.content->height() >= window.inner()->height() * 3 / 4);
+    QVERIFY(window.bottom->stackedWidget()->height() > 0);
+}
+
+void tst_DockContainer::keepsTheCentreWithAWidthFromALargerWindow()
+{
+    for (int pane : {0, 2}) {
+        DockWindow window;
+        window.addTab();
+        QVERIFY(Gui::open(&window));
+        auto *panelWidget = pane == 0 ? window.left : window.right;
+        QList<int> sizes{100, window.outer()->width() - 800, 100};
+        sizes[pane] = 700;
+        window.outer()->setSizes(sizes);
+        Gui::click(DockWindow::button(panelWidget, 0));
+        window.resize(450, 400);
+        settle();
+        QVERIFY(remembered(window.container->saveState(), pane) > window.outer()->width());
+        for (int round = 0; round < 2; ++round) {
+            Gui::click(DockWindow::button(panelWidget, 0));
+            settle();
+            QVERIFY(panelWidget->stackedWidget()->width() > 0);
+            QVERIFY(window.content->width() > 0);
+            Gui::click(DockWindow::button(panelWidget, 0));
+            settle();
+            QCOMPARE(panelWidget->stackedWidget()->width(), 0);
+        }
+        QCOMPARE(window.size(), QSize(450, 400));
     }
 }
 
@@ -366,7 +535,7 @@ void tst_DockContainer::bringsAPanelBackThatWasDraggedToNothingAtOnce()
     QVERIFY(window.left->isMinimized());
     Gui::click(DockWindow::button(window.left, 0));
     QVERIFY(!window.left->isMinimized());
-    QVERIFY(window.left->stackedWidget()->width() > 0);
+    QCOMPARE(window.left->stackedWidget()->width(), window.outer()->width() / 7);
 }
 
 void tst_DockContainer::setsPanesCollapsible()
@@ -557,6 +726,35 @@ void tst_DockContainer::isRestoredBeforeItIsShown()
     QCOMPARE(window.outer()->sizes(), QList<int>({250, window.outer()->width() - 370, 120}));
 }
 
+void tst_DockContainer::isRestoredBeforeItHasViews()
+{
+    QByteArray state;
+    {
+        DockWindow window;
+        window.addTab();
+        QVERIFY(Gui::open(&window));
+        window.outer()->setSizes({200, window.outer()->width() - 350, 150});
+        Gui::click(DockWindow::button(window.left, 0));
+        state = window.container->saveState();
+    }
+    for (bool shown : {false, true}) {
+        DockWindow window(0);
+        window.addTab();
+        if (shown)
+            QVERIFY(Gui::open(&window));
+        window.container->restoreState(state);
+        for (auto *panelWidget : {window.left, window.right, window.bottom})
+            panelWidget->addView(new QWidget, QIcon(), u"view"_s);
+        QVERIFY(Gui::open(&window));
+        settle();
+        const int width = window.outer()->width();
+        QCOMPARE(window.outer()->sizes(), QList<int>({0, width - 150, 150}));
+        QVERIFY(window.left->isMinimized());
+        Gui::click(DockWindow::button(window.left, 0));
+        QCOMPARE(window.outer()->sizes(), QList<int>({200, width - 350, 150}));
+    }
+}
+
 void tst_DockContainer::keepsTwoContainersApart()
 {
     DockWindow one;
@@ -620,6 +818,9 @@ void tst_DockContainer::diesInAnyOrder()
     } else if (order == u"panes, container"_s) {
         delete window->right->stackedWidget();
         settle();
+        Gui::click(DockWindow::button(window->right, 1));
+        Gui::click(DockWindow::button(window->right, 1));
+        Gui::click(DockWindow::button(window->left, 0));
         const QByteArray state = container->saveState();
         container->restoreState(state);
         container->setPanelCollapsible(false);
