@@ -4,13 +4,13 @@
 #include "DockSubject.h"
 #include "DockWidgetSubject.h"
 #include "Look.h"
+#include "PaintWitness.h"
 #include "Recorder.h"
 #include "SkeletonSubject.h"
 
 #include <Norvane/DockContainer.h>
 #include <Norvane/DockContentWidget.h>
 
-#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QJsonDocument>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTabWidget>
@@ -19,11 +19,6 @@
 #include <cstdio>
 
 namespace {
-
-void settle()
-{
-    while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) { }
-}
 
 class PolishWitness : public QObject
 {

@@ -3,16 +3,14 @@
 
 #include "Counter.h"
 #include "Look.h"
+#include "PaintWitness.h"
 #include "PlainSubject.h"
 #include "Recorder.h"
 #include "RibbonSubject.h"
 
-#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QPointer>
 #include <QtGui/QAction>
-#include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
@@ -26,59 +24,6 @@ constexpr int permanentPages = 6;
 constexpr int widest = 1600;
 constexpr int narrowest = 600;
 
-// Knows whether a widget has been painted since it was asked to watch for it.
-class PaintWitness : public QObject
-{
-public:
-    void watch(QWidget *widget)
-    {
-        if (m_widget)
-            m_widget->removeEventFilter(this);
-        m_widget = widget;
-        m_widget->installEventFilter(this);
-        m_painted = false;
-    }
-
-    // Returns when the widget is painted and nothing is left to do.
-    void wait()
-    {
-        for (int i = 0; !m_painted; ++i) {
-            if (i == 1000)
-                qFatal("%s is never painted", m_widget->metaObject()->className());
-            QCoreApplication::processEvents();
-        }
-        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) { }
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        Q_UNUSED(watched)
-        m_painted = m_painted || event->type() == QEvent::Paint;
-        return false;
-    }
-
-private:
-    QPointer<QWidget> m_widget;
-    bool m_painted = false;
-};
-
-QIcon createIcon(int number)
-{
-    QIcon icon;
-    for (const int size : {16, 24}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor::fromHsv(number * 37 % 360, 200, 180));
-        painter.drawRect(number % 3, 2, size - 6, size - 4);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
-
 QList<PageActions> createActions(int pages, int groups, int actions, QObject *parent)
 {
     QList<PageActions> result(pages, PageActions(groups, GroupActions(actions)));
@@ -89,7 +34,7 @@ QList<PageActions> createActions(int pages, int groups, int actions, QObject *pa
                 const bool large = a % (largeRun + smallRun) < largeRun;
                 const QString text =
                     large ? QStringLiteral("Arrange\nparts %1") : QStringLiteral("Adjust %1");
-                group[a] = new QAction(createIcon(number), text.arg(number), parent);
+                group[a] = new QAction(Look::createIcon(number), text.arg(number), parent);
                 ++number;
             }
         }
