@@ -22,6 +22,7 @@ private Q_SLOTS:
     void stacksTwoIconsInAColumn();
     void showsOnlyTheFirstOfTwoIconsInARow();
     void isGreyWhileItIsNotChecked();
+    void composesItsIconAgainForAnotherScreenResolution();
     void takesNullIcons();
     void tellsTheViewUnderTheMouse_data();
     void tellsTheViewUnderTheMouse();
@@ -120,6 +121,18 @@ void tst_DockButton::isGreyWhileItIsNotChecked()
     QCOMPARE(Gui::pixel(&button, {15, 3 + 40}), QColor(Qt::blue));
     Gui::click(&button);
     QVERIFY(isGrey(at(button, {12, 12})));
+}
+
+void tst_DockButton::composesItsIconAgainForAnotherScreenResolution()
+{
+    DockButton button(Qt::Vertical);
+    button.setIconSize({24, 51});
+    button.setChecked(true);
+    button.setIcons({icon(Qt::red), icon(Qt::blue)});
+    const qint64 before = button.icon().cacheKey();
+    Q_EMIT QGuiApplication::primaryScreen()->physicalDotsPerInchChanged(123);
+    QVERIFY(button.icon().cacheKey() != before);
+    QCOMPARE(at(button, {12, 38}), QColor(Qt::blue));
 }
 
 void tst_DockButton::takesNullIcons()

@@ -5,6 +5,7 @@
 #include "Steps.h"
 #include "TestCase.h"
 
+#include <dock/DockContainer_p.h>
 #include <dock/DockPanel.h>
 #include <dock/DockStatusBar.h>
 #include <style/StyleSheet.h>
@@ -28,6 +29,7 @@ class tst_DockContainer : public TestCase
 
 private Q_SLOTS:
     void isLaidOutAroundItsCentre();
+    void leavesTheSheetToItsPublicConstructor();
     void takesAnyOtherAreaForTheRight();
     void hidesItsContentUntilThereIsATab();
     void comesUpWithTheShares_data();
@@ -42,9 +44,11 @@ private Q_SLOTS:
     void keepsTheContentWithAHeightFromALargerWindow();
     void givesTheBottomPanelTheColumnOfNoContent();
     void keepsTheCentreWithAWidthFromALargerWindow();
+    void keepsTheHeightsWhenTheContentComesBack();
     void sharesTheColumnWhenTheContentComesBack();
     void opensTheBottomPanelWhenTheContentGoes();
     void marksADraggedSidePanel();
+    void looksAtBothSidesWhicheverHandleIsDragged();
     void marksADraggedBottomPanel();
     void bringsAPanelBackThatWasDraggedToNothingAtOnce();
     void setsPanesCollapsible();
@@ -52,6 +56,7 @@ private Q_SLOTS:
     void takesAMainWindowOver();
     void takesOnlyAnotherMainWindowOver();
     void linesTheBarUpWithTheContent();
+    void linesTheBarUpWhenTheBottomPaneMoves();
     void savesTheOuterSplitterAndItsSizes();
     void restoresWhatItSaved();
     void marksRestoredPanelsWithoutWidth();
@@ -130,6 +135,28 @@ void tst_DockContainer::isLaidOutAroundItsCentre()
     QVERIFY(inner->isCollapsible(0) && inner->isCollapsible(1));
     QCOMPARE(window.container->styleSheet(), StyleSheet::read(u":/res/dockLight.css"_s));
     QVERIFY(!window.container->styleSheet().isEmpty());
+}
+
+void tst_DockContainer::leavesTheSheetToItsPublicConstructor()
+{
+    struct Bare : DockContainer
+    {
+        Bare()
+            : DockContainer(*new DockContainerPrivate, nullptr)
+        {
+        }
+    };
+    Bare container;
+    QVERIFY(container.styleSheet().isEmpty());
+    DockPanelWidget *left = container.panelWidget(DockContainer::LeftDockArea);
+    left->addView(new QWidget, QIcon(), u"view"_s);
+    container.contentWidget()->addSection(u"Texts"_s);
+    container.contentWidget()->addTab(0, new QWidget, u"tab"_s);
+    container.resize(800, 500);
+    QVERIFY(Gui::open(&container));
+    QVERIFY(left->currentIndex() == 0);
+    Gui::click(DockWindow::button(left, 0));
+    QCOMPARE(left->currentIndex(), -1);
 }
 
 void tst_DockContainer::takesAnyOtherAreaForTheRight()
@@ -434,6 +461,22 @@ void tst_DockContainer::keepsTheCentreWithAWidthFromALargerWindow()
     }
 }
 
+void tst_DockContainer::keepsTheHeightsWhenTheContentComesBack()
+{
+    DockWindow window;
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    const int height = window.inner()->height();
+    const QList<int> sizes{height - 150, 150};
+    window.inner()->setSizes(sizes);
+    window.content->removeTab(0, 0);
+    settle();
+    QCOMPARE(window.bottom->stackedWidget()->height(), height);
+    window.addTab();
+    settle();
+    QCOMPARE(window.inner()->sizes(), sizes);
+}
+
 void tst_DockContainer::sharesTheColumnWhenTheContentComesBack()
 {
     DockWindow window;
@@ -499,6 +542,25 @@ void tst_DockContainer::marksADraggedSidePanel()
     QVERIFY(DockWindow::button(window.left, 0)->isChecked());
     QCOMPARE(remembered(window.container->saveState(), 0), width());
     QCOMPARE(minimized.count(), 0);
+}
+
+void tst_DockContainer::looksAtBothSidesWhicheverHandleIsDragged()
+{
+    DockWindow window;
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    window.outer()->setSizes({200, window.outer()->width() - 330, 130});
+    window.right->setMinimized(true);
+    DockWindow::drag(window.outer()->handle(1), {30, 0});
+    QVERIFY(!window.right->isMinimized());
+    QCOMPARE(remembered(window.container->saveState(), 2), 130);
+    window.left->setMinimized(true);
+    DockWindow::drag(window.outer()->handle(2), {-30, 0});
+    QVERIFY(!window.left->isMinimized());
+    window.outer()->setSizes({0, window.outer()->width() - 130, 130});
+    DockWindow::drag(window.outer()->handle(2), {-30, 0});
+    QVERIFY(window.left->isMinimized());
+    QVERIFY(!window.right->isMinimized());
 }
 
 void tst_DockContainer::marksADraggedBottomPanel()
@@ -620,6 +682,19 @@ void tst_DockContainer::linesTheBarUpWithTheContent()
     window.bottom->panel()->move(500, 0);
     window.container->updateState();
     QCOMPARE(barAt(), contentAt());
+}
+
+void tst_DockContainer::linesTheBarUpWhenTheBottomPaneMoves()
+{
+    DockWindow window;
+    window.addTab();
+    window.container->setupMainWindow(&window);
+    QVERIFY(Gui::open(&window));
+    window.bottom->panel()->move(444, 0);
+    const int height = window.inner()->height();
+    window.inner()->setSizes({height - 170, 170});
+    QCOMPARE(window.bottom->panel()->mapTo(&window, QPoint()).x(),
+             window.content->mapTo(&window, QPoint()).x());
 }
 
 void tst_DockContainer::savesTheOuterSplitterAndItsSizes()

@@ -260,6 +260,9 @@ void tst_DockPanel::drawsSeparatorsAcross()
     column.addButton(u"a"_s, icon());
     column.resize(35, 200);
     QVERIFY(Gui::open(&column));
+    DockPanel row(Qt::Horizontal);
+    row.addSeparator();
+    QCOMPARE(separatorsOf(row).constLast()->frameShape(), QFrame::VLine);
     const QFrame *line = separatorsOf(column).constFirst();
     QCOMPARE(line->height(), 1);
     QCOMPARE(Gui::pixel(&column, line->geometry().center()), QColor(191, 191, 191));

@@ -35,10 +35,12 @@ private Q_SLOTS:
     void marksTheSecondViewOfASidePanel();
     void leavesTheCollapseButtonsOfABottomPanel();
     void collapsesAViewToItsTitle();
+    void collapsesOnlyTheSecondViewOfABottomPanel();
     void showsThePageOfAClickedButton();
     void minimizesWithAClickOnTheCurrentButton();
     void minimizesWithTheMenu();
     void emitsNothingWhenItIsToldToMinimize();
+    void isMarkedAfterItHasToldSo();
     void staysMinimizedWithItsFirstView();
     void hasNoCurrentPageWithoutWidth();
     void makesAPageCurrent();
@@ -207,7 +209,9 @@ void tst_DockPanelWidget::addsOnePagePerView()
     QCOMPARE(host.panelWidget->count(), 0);
     auto *widget = new QWidget;
     QCOMPARE(host.panelWidget->addView(widget, QIcon(), u"one"_s), 0);
+    const int separators = int(host.bar->findChildren<QFrame *>().size());
     host.panelWidget->addSeparator();
+    QCOMPARE(host.bar->findChildren<QFrame *>().size(), separators + 1);
     QCOMPARE(host.add(u"two"_s), 1);
     QCOMPARE(host.panelWidget->count(), 2);
     QCOMPARE(host.stack->count(), 2);
@@ -289,6 +293,27 @@ void tst_DockPanelWidget::collapsesAViewToItsTitle()
     }
 }
 
+void tst_DockPanelWidget::collapsesOnlyTheSecondViewOfABottomPanel()
+{
+    Host host(DockPanelWidget::BottomDirection);
+    host.add();
+    host.panelWidget->tabifyView(0, new QWidget, QIcon(), u"two"_s);
+    for (int position : {0, 1})
+        host.view(0, position)->setCollapseButtonVisible(true);
+    host.resize(900, 200);
+    QVERIFY(Gui::open(&host));
+    const int width = host.page(0)->width();
+    const QList<int> halves{width / 2, width - width / 2};
+    host.page(0)->setSizes(halves);
+    Gui::click(collapseButtonOf(host.view(0, 0)));
+    QCOMPARE(host.page(0)->sizes(), halves);
+    Gui::click(collapseButtonOf(host.view(0, 1)));
+    // In a row it is narrow, and not narrower than its title lets it be.
+    const int title =
+        qMax(host.view(0, 1)->titleHeight(), host.view(0, 1)->minimumSizeHint().width());
+    QCOMPARE(host.page(0)->sizes(), QList<int>({width - title, title}));
+}
+
 void tst_DockPanelWidget::showsThePageOfAClickedButton()
 {
     Host host;
@@ -356,6 +381,33 @@ void tst_DockPanelWidget::emitsNothingWhenItIsToldToMinimize()
     QCOMPARE(host.bar->checkedId(), 1);
     QCOMPARE(minimized.count(), 0);
     QCOMPARE(current.count(), 0);
+}
+
+void tst_DockPanelWidget::isMarkedAfterItHasToldSo()
+{
+    Host host;
+    host.add();
+    host.add();
+    QVERIFY(Gui::open(&host));
+    host.panelWidget->setViewVisible(1, false);
+    // What is so while the signal is emitted: the mark, the checked button, the page, and whether
+    // the second button is hidden.
+    QList<QVariantList> seen;
+    connect(host.panelWidget, &DockPanelWidget::signalMinimized, &host, [&](bool minimized) {
+        seen << QVariantList{minimized, host.panelWidget->isMinimized(), host.bar->checkedId(),
+                             host.stack->currentIndex(), host.button(1)->isHidden()};
+    });
+    Gui::click(host.button(0));
+    Gui::click(host.button(0));
+    host.view(0, 0)->menu()->actions().constFirst()->trigger();
+    host.panelWidget->setViewVisible(1, true);
+    QCOMPARE(seen,
+             QList<QVariantList>({{true, false, -1, 0, true},
+                                  {false, true, 0, 0, true},
+                                  {true, false, 0, 0, true},
+                                  {false, true, 1, 1, true}}));
+    QVERIFY(!host.panelWidget->isMinimized());
+    QVERIFY(!host.button(1)->isHidden());
 }
 
 void tst_DockPanelWidget::staysMinimizedWithItsFirstView()

@@ -74,6 +74,7 @@ void tst_DockTitle::holdsCollapseButtonNameAndMenuButton()
     QCOMPARE(menu->iconSize(), QSize(10, 10));
     QCOMPARE(name->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(title.contextMenuPolicy(), Qt::CustomContextMenu);
+    QCOMPARE(title.menu()->parent(), nullptr);
 
     const auto picture = [](const QIcon &icon, QIcon::State state) {
         return icon.pixmap(QSize(17, 17), 1, QIcon::Normal, state).toImage();
