@@ -8,14 +8,16 @@
 #include "documents/Document.h"
 #include "files/FileCommands.h"
 #include "files/RecentFiles.h"
+#include "ribbon/DocumentPage.h"
 #include "ribbon/WorkbenchRibbon.h"
 #include "text/TextOptions.h"
 #include "views/Panels.h"
 
 #include <Norvane/DockContainer.h>
-#include <Norvane/DockContentWidget.h>
+#include <Norvane/NorvaneAgent.h>
+#include <Norvane/RibbonBar.h>
+#include <Norvane/RibbonPage.h>
 
-#include <QtCore/QFile>
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtCore/QTimer>
@@ -24,7 +26,6 @@
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStatusBar>
-#include <QtWidgets/QVBoxLayout>
 
 namespace Workbench {
 
@@ -39,29 +40,26 @@ static QStringList localFiles(const QMimeData *data)
     return paths;
 }
 
+static NorvaneAgent *frame(QMainWindow *window)
+{
+    auto *agent = new NorvaneAgent(window);
+    agent->setup(window, true, true);
+    return agent;
+}
+
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
+    , m_agent(frame(this))
     , m_textOptions(new TextOptions(this))
     , m_recent(new RecentFiles(this))
-    , m_docks(new Norvane::DockContainer)
-    , m_tabs(new DocumentTabs(m_docks->contentWidget()))
+    , m_tabs(new DocumentTabs(m_agent->dockContainer()->contentWidget()))
     , m_files(new FileCommands(m_tabs, m_recent, m_textOptions, this))
-    , m_ribbon(new WorkbenchRibbon(m_files, m_recent, m_textOptions))
-    , m_panels(new Panels(m_docks, m_tabs, m_files))
+    , m_ribbon(new WorkbenchRibbon(m_agent->ribbonBar(), m_files, m_recent, m_textOptions))
+    , m_panels(new Panels(m_agent->dockContainer(), m_tabs, m_files))
     , m_message(new QLabel)
     , m_summary(new QLabel)
 {
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_ribbon);
-    layout->addWidget(m_docks, 1);
-    setCentralWidget(content);
-    m_docks->setupMainWindow(this);
-    QFile frameSheet(QStringLiteral(":/norvane/norvanelight.css"));
-    if (frameSheet.open(QIODevice::ReadOnly))
-        statusBar()->setStyleSheet(QString::fromUtf8(frameSheet.readAll()));
+    bindPages();
     for (QLabel *label : {m_message, m_summary}) {
         label->setContentsMargins(6, 0, 6, 0);
         statusBar()->addPermanentWidget(label);
@@ -122,6 +120,13 @@ void MainWindow::dropEvent(QDropEvent *event)
     QMetaObject::invokeMethod(this, [this, paths] { open(paths); }, Qt::QueuedConnection);
 }
 
+void MainWindow::bindPages()
+{
+    // The page comes with its section, but nobody is taken away from another one.
+    for (const auto kind : {Document::Kind::Text, Document::Kind::Picture})
+        m_agent->bindRibbonPagesAndDockPartition({nullptr, m_ribbon->page(kind)}, int(kind));
+}
+
 void MainWindow::setDocument(Document *document)
 {
     if (m_document)
@@ -167,14 +172,15 @@ void MainWindow::restoreLayout()
 {
     const QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("layout/window")).toByteArray());
-    m_docks->restoreState(settings.value(QStringLiteral("layout/docks")).toByteArray());
+    m_agent->dockContainer()->restoreState(
+        settings.value(QStringLiteral("layout/docks")).toByteArray());
 }
 
 void MainWindow::saveLayout() const
 {
     QSettings settings;
     settings.setValue(QStringLiteral("layout/window"), saveGeometry());
-    settings.setValue(QStringLiteral("layout/docks"), m_docks->saveState());
+    settings.setValue(QStringLiteral("layout/docks"), m_agent->dockContainer()->saveState());
 }
 
 } // namespace Workbench

@@ -5,11 +5,8 @@
 
 #include <QtWidgets/QMainWindow>
 
+class NorvaneAgent;
 class QLabel;
-
-namespace Norvane {
-class DockContainer;
-}
 
 namespace Workbench {
 
@@ -46,6 +43,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void bindPages();
     void setDocument(Document *document);
     void showDocument();
     void setFullScreen(bool fullScreen);
@@ -53,9 +51,9 @@ private:
     void restoreLayout();
     void saveLayout() const;
 
+    NorvaneAgent *m_agent;
     TextOptions *m_textOptions;
     RecentFiles *m_recent;
-    Norvane::DockContainer *m_docks;
     DocumentTabs *m_tabs;
     FileCommands *m_files;
     WorkbenchRibbon *m_ribbon;

@@ -9,7 +9,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QStyleHints>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -54,8 +53,6 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(u"Norvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(NORVANE_WORKBENCH_VERSION));
     QApplication::setWindowIcon(Workbench::icon("workbench"_L1));
-    // The ribbon is always light; beside it the rest must not be dark.
-    QGuiApplication::styleHints()->setColorScheme(Qt::ColorScheme::Light);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

@@ -15,6 +15,7 @@
 #include "text/TextEditor.h"
 
 #include <Norvane/DockContentWidget.h>
+#include <Norvane/RibbonBar.h>
 
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
@@ -51,7 +52,11 @@ public:
     {
         return findChild<Norvane::DockContentWidget *>();
     }
-    Workbench::WorkbenchRibbon *ribbon() const { return findChild<Workbench::WorkbenchRibbon *>(); }
+    Norvane::RibbonBar *ribbon() const { return findChild<Norvane::RibbonBar *>(); }
+    QList<QAction *> commands() const
+    {
+        return findChild<Workbench::WorkbenchRibbon *>()->commands();
+    }
     Workbench::Document *document() const { return tabs()->currentDocument(); }
     Workbench::TextDocument *text() const
     {
@@ -151,7 +156,7 @@ public:
     //! The command, wherever its button is.
     QAction *command(const QString &text) const
     {
-        const QList<QAction *> actions = ribbon()->commands();
+        const QList<QAction *> actions = commands();
         for (QAction *action : actions) {
             if (action->text() == text)
                 return action;

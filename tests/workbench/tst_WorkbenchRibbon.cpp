@@ -132,7 +132,7 @@ void tst_WorkbenchRibbon::marksTemporaryPages()
 void tst_WorkbenchRibbon::explainsEveryCommand()
 {
     const WorkbenchWindow window;
-    const QList<QAction *> commands = window.ribbon()->commands();
+    const QList<QAction *> commands = window.commands();
     for (const QAction *command : commands) {
         QVERIFY2(!command->toolTip().isEmpty(), qPrintable(command->text()));
         QVERIFY2(!command->toolTip().contains(u'\n'), qPrintable(command->text()));
@@ -147,7 +147,7 @@ void tst_WorkbenchRibbon::explainsEveryCommand()
 void tst_WorkbenchRibbon::drawsEveryIcon()
 {
     const WorkbenchWindow window;
-    const QList<QAction *> commands = window.ribbon()->commands();
+    const QList<QAction *> commands = window.commands();
     for (const QAction *command : commands) {
         for (int size : {16, 24}) {
             const QImage image = command->icon().pixmap(QSize(size, size), 1.0).toImage();
@@ -166,7 +166,7 @@ void tst_WorkbenchRibbon::hasNoShortcutTwice()
 {
     const WorkbenchWindow window;
     QStringList keys;
-    const QList<QAction *> commands = window.ribbon()->commands();
+    const QList<QAction *> commands = window.commands();
     for (const QAction *command : commands) {
         const QList<QKeySequence> shortcuts = command->shortcuts();
         for (const QKeySequence &key : shortcuts)

@@ -9,6 +9,7 @@
 #include "ribbon/TextPage.h"
 #include "ribbon/ViewPage.h"
 
+#include <Norvane/RibbonBar.h>
 #include <Norvane/RibbonCorner.h>
 
 #include <QtGui/QAction>
@@ -17,12 +18,13 @@
 
 namespace Workbench {
 
-WorkbenchRibbon::WorkbenchRibbon(FileCommands *files, RecentFiles *recent, TextOptions *textOptions,
-                                 QWidget *parent)
-    : Norvane::RibbonBar(parent)
+WorkbenchRibbon::WorkbenchRibbon(Norvane::RibbonBar *bar, FileCommands *files, RecentFiles *recent,
+                                 TextOptions *textOptions)
+    : QObject(bar)
+    , m_bar(bar)
 {
     auto *home = new HomePage(files, recent);
-    connect(home, &HomePage::wanted, this, [this, home] { setCurrentPage(home); });
+    connect(home, &HomePage::wanted, this, [this, home] { m_bar->setCurrentPage(home); });
     connect(home, &HomePage::findInAllWanted, this, &WorkbenchRibbon::findInAllWanted);
     m_homePage = home;
     m_viewPage = new ViewPage(textOptions);
@@ -30,20 +32,26 @@ WorkbenchRibbon::WorkbenchRibbon(FileCommands *files, RecentFiles *recent, TextO
     m_textPage = new TextPage(textOptions);
     m_picturePage = new PicturePage;
     m_pages = {m_homePage, m_viewPage, m_textPage, m_picturePage};
-    addPage(tr("Home"), m_homePage, false);
-    addPage(tr("View"), m_viewPage, false);
-    addPage(tr("Text"), m_textPage, true);
-    addPage(tr("Picture"), m_picturePage, true);
-    hideTemporaryPages();
+    bar->addPage(tr("Home"), m_homePage, false);
+    bar->addPage(tr("View"), m_viewPage, false);
+    bar->addPage(tr("Text"), m_textPage, true);
+    bar->addPage(tr("Picture"), m_picturePage, true);
+    bar->hideTemporaryPages();
     addHelpButton();
-    connect(this, &QWidget::customContextMenuRequested, this, &WorkbenchRibbon::openMenuOfButton);
+    connect(bar, &QWidget::customContextMenuRequested, this, &WorkbenchRibbon::openMenuOfButton);
+}
+
+DocumentPage *WorkbenchRibbon::page(Document::Kind kind) const
+{
+    return kind == Document::Kind::Text ? m_textPage : m_picturePage;
 }
 
 void WorkbenchRibbon::setDocument(Document *document)
 {
     for (DocumentPage *page : std::as_const(m_pages))
         page->setDocument(document);
-    showPagesFor(document ? std::optional(document->kind()) : std::nullopt);
+    if (m_bar->currentPage() == m_textPage || m_bar->currentPage() == m_picturePage)
+        m_bar->setCurrentPage(document ? page(document->kind()) : m_homePage);
 }
 
 void WorkbenchRibbon::setFullScreen(bool fullScreen)
@@ -76,29 +84,12 @@ void WorkbenchRibbon::addHelpButton()
         "QToolButton { border: none; border-radius: 2px; background-color: transparent; }"
         "QToolButton:hover { background-color: rgb(38, 140, 221); }"
         "QToolButton:pressed { background-color: rgb(0, 90, 160); }"));
-    corner()->addWidget(button);
-}
-
-void WorkbenchRibbon::showPagesFor(std::optional<Document::Kind> kind)
-{
-    if (m_kind == kind)
-        return;
-    m_kind = kind;
-    const bool currentGoes = currentPage() == m_textPage || currentPage() == m_picturePage;
-    hideTemporaryPages();
-    DocumentPage *page = nullptr;
-    if (kind)
-        page = *kind == Document::Kind::Text ? m_textPage : m_picturePage;
-    if (page)
-        showPage(indexOf(page));
-    // Whoever stands on Home or View stays there.
-    if (currentGoes)
-        setCurrentPage(page ? page : m_homePage);
+    m_bar->corner()->addWidget(button);
 }
 
 void WorkbenchRibbon::openMenuOfButton(QPoint position)
 {
-    const auto *button = qobject_cast<QToolButton *>(childAt(position));
+    const auto *button = qobject_cast<QToolButton *>(m_bar->childAt(position));
     QMenu *menu = button && button->defaultAction() ? button->defaultAction()->menu() : nullptr;
     if (menu && button->isEnabled())
         menu->popup(button->mapToGlobal(QPoint(0, button->height())));

@@ -5,13 +5,15 @@
 
 #include "documents/Document.h"
 
-#include <Norvane/RibbonBar.h>
-
 #include <QtCore/QList>
-
-#include <optional>
+#include <QtCore/QObject>
 
 class QAction;
+class QPoint;
+
+namespace Norvane {
+class RibbonBar;
+}
 
 namespace Workbench {
 
@@ -21,18 +23,22 @@ class RecentFiles;
 class TextOptions;
 class ViewPage;
 
-/*!
-    The window's ribbon. The page for the kind of document that is in front comes and goes with it.
-*/
-class WorkbenchRibbon : public Norvane::RibbonBar
+//! Fills the window's ribbon with the commands, and keeps them in step with the document in front.
+class WorkbenchRibbon : public QObject
 {
     Q_OBJECT
 
 public:
-    WorkbenchRibbon(FileCommands *files, RecentFiles *recent, TextOptions *textOptions,
-                    QWidget *parent = nullptr);
+    WorkbenchRibbon(Norvane::RibbonBar *bar, FileCommands *files, RecentFiles *recent,
+                    TextOptions *textOptions);
 
-    //! The document in front, or null.
+    //! The page that is there for documents of this kind only.
+    DocumentPage *page(Document::Kind kind) const;
+
+    /*!
+        The document in front, or null. Whoever stands on Home or View stays there; from the page of
+        another kind of document the ribbon goes on to that of this one.
+    */
     void setDocument(Document *document);
     void setFullScreen(bool fullScreen);
 
@@ -46,16 +52,15 @@ Q_SIGNALS:
 
 private:
     void addHelpButton();
-    void showPagesFor(std::optional<Document::Kind> kind);
     void openMenuOfButton(QPoint position);
 
+    Norvane::RibbonBar *m_bar;
     QList<DocumentPage *> m_pages;
     DocumentPage *m_homePage;
     ViewPage *m_viewPage;
     DocumentPage *m_textPage;
     DocumentPage *m_picturePage;
     QAction *m_help;
-    std::optional<Document::Kind> m_kind;
 };
 
 } // namespace Workbench
