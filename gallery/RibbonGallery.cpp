@@ -141,6 +141,8 @@ void RibbonGalleryPrivate::openPopup()
     popup->setFixedHeight(height);
     popup->verticalScrollBar()->setValue(0);
     popup->setFixedWidth(q->width() + (height < wanted ? RibbonGalleryPopup::ScrollBarWidth : 0));
+    // Items find their places before they are shown, when moving them costs nothing.
+    popup->sizeContent(wanted);
     const QPoint corner = q->mapToGlobal(QPoint());
     popupMenu->popup(corner);
     popupMenu->move(corner);
@@ -175,8 +177,9 @@ RibbonGallery::RibbonGallery(RibbonGalleryPrivate &dd, QWidget *parent)
 RibbonGallery::~RibbonGallery()
 {
     Q_D(RibbonGallery);
-    // An open popup is hidden on the way, clears its search and has much to tell.
-    d->popup->disconnect(this);
+    // With its popup, which the menu would hide and give back when it goes itself: it would clear
+    // its search, and each of its items would get another style.
+    delete d->popupMenu->actions().constFirst();
 }
 
 int RibbonGallery::addGroup(const QString &title)

@@ -160,6 +160,31 @@ QString RibbonGalleryGroup::title() const
     return d->titleLabel->text();
 }
 
+bool RibbonGalleryGroup::filter(const QString &text)
+{
+    Q_D(RibbonGalleryGroup);
+    bool anyMatches = false;
+    QList<int> changed;
+    for (int i = 0; i < count(); ++i) {
+        const bool matches = d->items[i]->text().contains(text);
+        anyMatches = anyMatches || matches;
+        if (matches == d->items[i]->isHidden())
+            changed.append(i);
+    }
+    if (!anyMatches)
+        hide();
+    // Each item that is shown or hidden would have all of them laid out.
+    d->itemsLayout->setEnabled(false);
+    layout()->setEnabled(false);
+    for (const int index : std::as_const(changed))
+        setItemVisible(index, d->items[index]->isHidden());
+    d->itemsLayout->setEnabled(true);
+    layout()->setEnabled(true);
+    if (anyMatches)
+        show();
+    return anyMatches;
+}
+
 void RibbonGalleryGroup::updateLayout()
 {
     Q_D(RibbonGalleryGroup);

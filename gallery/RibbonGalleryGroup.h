@@ -59,6 +59,11 @@ public:
     //! Shows the buttons that move the group away from \a position, and hides the others.
     void setPosition(Position position);
     QString title() const;
+    /*!
+        Shows the items whose text contains \a text and hides the others; the group is shown if
+        there is one, which is returned, and hidden otherwise.
+    */
+    bool filter(const QString &text);
     //! Has the items laid out again when the event loop is reached.
     void updateLayout();
 

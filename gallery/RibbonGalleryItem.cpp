@@ -5,7 +5,27 @@
 
 namespace Norvane {
 
-RibbonGalleryItemPrivate::RibbonGalleryItemPrivate() = default;
+namespace {
+
+// The same for all items, as long as there are any.
+template<typename Icons>
+std::shared_ptr<const Icons> sharedIcons()
+{
+    static std::weak_ptr<const Icons> shared;
+    std::shared_ptr<const Icons> icons = shared.lock();
+    if (!icons) {
+        icons = std::make_shared<const Icons>();
+        shared = icons;
+    }
+    return icons;
+}
+
+} // namespace
+
+RibbonGalleryItemPrivate::RibbonGalleryItemPrivate()
+    : icons(sharedIcons<Icons>())
+{
+}
 
 RibbonGalleryItemPrivate::~RibbonGalleryItemPrivate() = default;
 
@@ -19,13 +39,20 @@ void RibbonGalleryItemPrivate::apply()
 {
     Q_Q(RibbonGalleryItem);
     if (collected) {
-        collectButton->show();
-        collectButton->setIcon(QIcon(QStringLiteral(":/res/collected.svg")));
+        showCollectButton();
+        collectButton->setIcon(icons->filled);
     } else {
-        collectButton->setIcon(QIcon(QStringLiteral(":/res/collect.svg")));
+        collectButton->setIcon(icons->hollow);
         collectButton->hide();
     }
     Q_EMIT q->signalCollected(collected);
+}
+
+// It takes its size from the sheet when it is shown.
+void RibbonGalleryItemPrivate::showCollectButton()
+{
+    collectButton->polish();
+    collectButton->show();
 }
 
 RibbonGalleryItem::RibbonGalleryItem(QAction *action, QWidget *parent)
@@ -34,21 +61,23 @@ RibbonGalleryItem::RibbonGalleryItem(QAction *action, QWidget *parent)
 }
 
 RibbonGalleryItem::RibbonGalleryItem(RibbonGalleryItemPrivate &dd, QAction *action, QWidget *parent)
-    : QToolButton(parent)
-    , d_ptr(&dd)
+    : d_ptr(&dd)
 {
     Q_D(RibbonGalleryItem);
     d->q_ptr = this;
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIconSize({24, 24});
     setDefaultAction(action);
-    d->collectButton = new QToolButton(this);
+    d->collectButton = new LazyToolButton(this);
     d->collectButton->setObjectName(QStringLiteral("collectedButton"));
     d->collectButton->setCheckable(true);
     d->collectButton->setIconSize({16, 16});
     connect(
         d->collectButton, &QToolButton::clicked, this, [d] { d->toggle(); }, Qt::DirectConnection);
     d->apply();
+    // Tool buttons ask their style when they are made: not yet under the sheets of the parents.
+    if (parent)
+        setParent(parent);
 }
 
 RibbonGalleryItem::~RibbonGalleryItem() = default;
@@ -78,8 +107,8 @@ void RibbonGalleryItem::enterEvent(QEnterEvent *event)
 {
     Q_D(RibbonGalleryItem);
     if (d->collectEnabled)
-        d->collectButton->show();
-    QToolButton::enterEvent(event);
+        d->showCollectButton();
+    LazyToolButton::enterEvent(event);
 }
 
 void RibbonGalleryItem::leaveEvent(QEvent *event)
@@ -87,7 +116,7 @@ void RibbonGalleryItem::leaveEvent(QEvent *event)
     Q_D(RibbonGalleryItem);
     if (!d->collected)
         d->collectButton->hide();
-    QToolButton::leaveEvent(event);
+    LazyToolButton::leaveEvent(event);
 }
 
 } // namespace Norvane

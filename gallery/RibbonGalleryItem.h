@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtWidgets/QToolButton>
+#include "LazyToolButton.h"
 
 #include <memory>
 
@@ -18,7 +18,7 @@ class RibbonGalleryItemPrivate;
     A collected item always shows the filled marker. Another one shows the hollow marker while the
     mouse is over it, if collecting is enabled, which at first it is not.
 */
-class RibbonGalleryItem : public QToolButton
+class RibbonGalleryItem : public LazyToolButton
 {
     Q_OBJECT
     Q_DECLARE_PRIVATE(RibbonGalleryItem)

@@ -17,11 +17,20 @@ public:
 
     void toggle();
     void apply();
+    void showCollectButton();
 
-    QToolButton *collectButton = nullptr;
+    LazyToolButton *collectButton = nullptr;
     bool collected = false;
     bool collectEnabled = false;
     RibbonGalleryItem *q_ptr = nullptr;
+
+    struct Icons
+    {
+        QIcon hollow{QStringLiteral(":/res/collect.svg")};
+        QIcon filled{QStringLiteral(":/res/collected.svg")};
+    };
+    // Reading a drawing takes longer than making an item.
+    const std::shared_ptr<const Icons> icons;
 };
 
 } // namespace Norvane

@@ -113,17 +113,11 @@ void RibbonGalleryPopupPrivate::filter(const QString &text)
     QList<RibbonGalleryGroup *> searched = groups;
     if (collectEnabled)
         searched.prepend(collectedGroup);
+    contentFrame->layout()->setEnabled(false);
     bool anyMatches = false;
-    for (RibbonGalleryGroup *group : std::as_const(searched)) {
-        bool groupMatches = false;
-        for (int i = 0; i < group->count(); ++i) {
-            const bool matches = group->item(i)->text().contains(text);
-            group->setItemVisible(i, matches);
-            groupMatches = groupMatches || matches;
-        }
-        group->setVisible(groupMatches);
-        anyMatches = anyMatches || groupMatches;
-    }
+    for (RibbonGalleryGroup *group : std::as_const(searched))
+        anyMatches = group->filter(text) || anyMatches;
+    contentFrame->layout()->setEnabled(true);
     noMatchLabel->setVisible(!anyMatches);
     updateHeight();
 }
@@ -139,8 +133,7 @@ void RibbonGalleryPopupPrivate::updateHeight()
     const int height = q->computedHeight(false);
     contentFrame->setFixedHeight(height);
     Q_EMIT q->signalHeightChanged(height);
-    const int barWidth = height > q->height() ? RibbonGalleryPopup::ScrollBarWidth : 0;
-    contentFrame->setFixedWidth(qMax(0, q->width() - barWidth));
+    q->sizeContent(height);
     collectedGroup->updateLayout();
 }
 
@@ -285,6 +278,13 @@ int RibbonGalleryPopup::computedHeight(bool countHiddenGroups)
             height += d->estimate(group);
     }
     return height == SearchHeight ? EmptyHeight : height;
+}
+
+void RibbonGalleryPopup::sizeContent(int contentHeight)
+{
+    Q_D(RibbonGalleryPopup);
+    const int barWidth = contentHeight > height() ? ScrollBarWidth : 0;
+    d->contentFrame->setFixedSize(qMax(0, width() - barWidth), contentHeight);
 }
 
 QByteArray RibbonGalleryPopup::saveState() const

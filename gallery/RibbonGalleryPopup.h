@@ -64,6 +64,12 @@ public:
     //! The height of the visible groups, or of all groups, with the search field.
     int computedHeight(bool countHiddenGroups);
 
+    /*!
+        Makes the content \a contentHeight pixels high and as wide as the popup without its scroll
+        bar, which it has if the content is higher.
+    */
+    void sizeContent(int contentHeight);
+
     //! "AAAA" if the display count is 0, else nothing.
     QByteArray saveState() const;
 
