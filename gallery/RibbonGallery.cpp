@@ -62,9 +62,9 @@ void RibbonGalleryPrivate::initialise()
     itemsFrame->setSizePolicy(itemsFrame->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     row->addWidget(itemsFrame);
     row->addWidget(popupButton);
-    auto *action = new QWidgetAction(q);
-    action->setDefaultWidget(popup);
-    popupMenu->addAction(action);
+    popupAction = new QWidgetAction(q);
+    popupAction->setDefaultWidget(popup);
+    popupMenu->addAction(popupAction);
     QObject::connect(popup, &RibbonGalleryPopup::signalHeightChanged, q,
                      [this](int height) { fitPopup(height); });
     QObject::connect(popup, &RibbonGalleryPopup::signalUpdateDisplayedItems, q,
@@ -179,7 +179,7 @@ RibbonGallery::~RibbonGallery()
     Q_D(RibbonGallery);
     // With its popup, which the menu would hide and give back when it goes itself: it would clear
     // its search, and each of its items would get another style.
-    delete d->popupMenu->actions().constFirst();
+    delete d->popupAction;
 }
 
 int RibbonGallery::addGroup(const QString &title)

@@ -11,6 +11,7 @@
 class QHBoxLayout;
 class QMenu;
 class QPushButton;
+class QWidgetAction;
 
 namespace Norvane {
 
@@ -46,6 +47,7 @@ public:
     int displayCount = 6;
     RibbonGallery *q_ptr = nullptr;
 
+    QWidgetAction *popupAction = nullptr;
     QList<QAction *> placeholders;
 };
 
