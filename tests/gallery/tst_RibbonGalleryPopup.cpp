@@ -1,0 +1,907 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "GalleryWindow.h"
+#include "TestCase.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QRandomGenerator>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+
+using namespace Norvane;
+using namespace Qt::StringLiterals;
+
+class tst_RibbonGalleryPopup : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hasASearchRow();
+    void isScrolledVertically();
+    void standsItsPartsInAColumn();
+    void collectedGroupCannotBeMoved();
+    void hasItsSheetsColours();
+    void isClosedByItsButton();
+    void isClosedFromOutside();
+    void staysOpenForClicksOnNothing();
+
+    void groupsKnowWhereTheyStand();
+    void groupsAreMoved();
+    void groupMovesLikeTheModel();
+
+    void estimatesItsHeight_data();
+    void estimatesItsHeight();
+    void countsHiddenGroupsIfAsked();
+    void tellsItsHeight();
+    void makesRoomForItsScrollBar();
+
+    void searchesByTyping();
+    void searchHeedsCase();
+    void searchHidesGroupsWithoutMatches();
+    void searchThatFindsNothing();
+    void searchIsTextNotAPattern();
+    void searchFindsTextsAsTheyAre();
+    void searchCoversCollectedItemsIfEnabled();
+    void searchHidesGroupsWithoutItems();
+    void searchForThousandsOfLetters();
+    void searchIsClearedWhenItCloses();
+    void searchOfAnEmptyCatalogue();
+
+    void updatesTheStripAfterItIsHidden();
+    void collectsACopy();
+    void collectsACopyForEachTime();
+    void uncollectsTheCopyOfAnItem();
+    void uncollectsByTheCopy();
+    void uncollectsAnActionInSeveralGroups();
+    void collectsWhileItIsSearched();
+};
+
+namespace {
+
+constexpr int searchHeight = 32;
+
+int neededHeight(int items, int inARow = 6)
+{
+    return 98 + (items > 1 ? 74 * ((items - 1) / inARow) : 0);
+}
+
+QStringList texts(int count)
+{
+    QStringList result;
+    for (int i = 0; i < count; ++i)
+        result << u"Item %1"_s.arg(i);
+    return result;
+}
+
+QList<int> heights(const QSignalSpy &spy)
+{
+    QList<int> values;
+    for (const QVariantList &arguments : spy)
+        values << arguments.constFirst().toInt();
+    return values;
+}
+
+QStringList titles(const GalleryWindow &window)
+{
+    QStringList result;
+    for (const RibbonGalleryGroup *group : window.groups())
+        result << group->title();
+    result.removeFirst();
+    return result;
+}
+
+// The titles of the groups that can be moved to the top, and of those that can to the bottom.
+QString buttons(const GalleryWindow &window)
+{
+    QString up;
+    QString down;
+    for (const RibbonGalleryGroup *group : window.groups()) {
+        up += GalleryWindow::toTopOf(group)->isHidden() ? QString() : group->title();
+        down += GalleryWindow::toBottomOf(group)->isHidden() ? QString() : group->title();
+    }
+    return up + u'/' + down;
+}
+
+bool isMarked(const RibbonGalleryItem *item)
+{
+    const QImage filled = QIcon(u":/res/collected.svg"_s).pixmap(QSize(16, 16), 1).toImage();
+    const QToolButton *marker = GalleryWindow::markerOf(item);
+    return !marker->isHidden() && marker->icon().pixmap(QSize(16, 16), 1).toImage() == filled;
+}
+
+} // namespace
+
+void tst_RibbonGalleryPopup::hasASearchRow()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QLineEdit *edit = window.edit();
+    const QPushButton *close = window.closeButton();
+    const int width = window.popup()->widget()->width();
+    QCOMPARE(edit->geometry().left(), 4);
+    QCOMPARE(close->geometry().left(), edit->geometry().right() + 1 + 8);
+    QCOMPARE(close->geometry().right() + 1, width - 4);
+    QCOMPARE(qMin(edit->y(), close->y()), 4);
+    QCOMPARE(edit->text(), QString());
+    QCOMPARE(close->iconSize(), QSize(12, 12));
+    QCOMPARE(close->icon().pixmap(QSize(12, 12), 1).toImage(),
+             QIcon(u":/res/close.svg"_s).pixmap(QSize(12, 12), 1).toImage());
+    // The glass stands at the field's end.
+    const QToolButton *glass = edit->findChild<QToolButton *>();
+    QVERIFY(glass);
+    QVERIFY(glass->x() > edit->width() / 2);
+    QCOMPARE(glass->icon().pixmap(QSize(16, 16), 1).toImage(),
+             QIcon(u":/res/search.svg"_s).pixmap(QSize(16, 16), 1).toImage());
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::isScrolledVertically()
+{
+    const RibbonGalleryPopup popup;
+    QVERIFY(!popup.widgetResizable());
+    QCOMPARE(popup.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QCOMPARE(popup.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(popup.verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    QCOMPARE(popup.widget()->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+    QCOMPARE(popup.widget()->sizePolicy().verticalPolicy(), QSizePolicy::Ignored);
+}
+
+void tst_RibbonGalleryPopup::standsItsPartsInAColumn()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(7));
+    window.add(u"Two"_s, {});
+    window.add(u"Three"_s, texts(1));
+    window.gallery->setItemCollected(0, 1, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    const QWidget *content = window.popup()->widget();
+    const int top =
+        qMax(window.edit()->geometry().bottom(), window.closeButton()->geometry().bottom()) + 1 + 4;
+    // A title bar, the margins and the rows.
+    int y = top;
+    for (const auto &[title, rows] : {std::pair(u"collected"_s, 1), std::pair(u"One"_s, 2),
+                                      std::pair(u"Two"_s, 0), std::pair(u"Three"_s, 1)}) {
+        const RibbonGalleryGroup *group = nullptr;
+        for (const RibbonGalleryGroup *candidate : window.groups())
+            group = candidate->title() == title ? candidate : group;
+        QVERIFY(group);
+        QCOMPARE(group->mapTo(content, QPoint()), QPoint(0, y));
+        QCOMPARE(group->size(), QSize(content->width(), 24 + 10 + rows * 60));
+        y += group->height();
+    }
+    QLabel *label = window.noMatchLabel();
+    QVERIFY(label->isHidden());
+    QCOMPARE(label->text(), u"No items match your search criteria."_s);
+    QCOMPARE(label->alignment().toInt(), 0xa4);
+    QCOMPARE(label->height(), 30);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::collectedGroupCannotBeMoved()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(2));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QCOMPARE(window.collected()->title(), u"collected"_s);
+    QVERIFY(window.collected()->isHidden());
+    window.clickMarker(window.item(0, 1));
+    QVERIFY(window.collected()->isVisible());
+    QVERIFY(GalleryWindow::toTopOf(window.collected())->isHidden());
+    QVERIFY(GalleryWindow::toBottomOf(window.collected())->isHidden());
+    const QLabel *icon = window.collected()->findChildren<QLabel *>().constFirst();
+    QVERIFY(icon->isVisible());
+    QCOMPARE(
+        icon->pixmap().toImage(),
+        QIcon(u":/res/collected.svg"_s).pixmap(QSize(16, 16), window.devicePixelRatio()).toImage());
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::hasItsSheetsColours()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    const QImage picture = Gui::picture(window.menu());
+    const QColor line(190, 190, 190);
+    QCOMPARE(Gui::pixel(picture, {0, 0}), line);
+    QCOMPARE(Gui::pixel(picture, {window.menu()->width() - 1, window.menu()->height() - 1}), line);
+    QCOMPARE(Gui::pixel(picture, {1, window.menu()->height() / 2}),
+             Gui::pixel(picture, {2, window.menu()->height() / 2}));
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::isClosedByItsButton()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    Gui::click(window.closeButton());
+    QVERIFY(window.menu()->isHidden());
+    QVERIFY(window.openPopup());
+    window.closePopup();
+    // It has nothing to close on its own.
+    RibbonGalleryPopup popup;
+    popup.widget()
+        ->findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly)
+        .at(0)
+        ->click();
+}
+
+void tst_RibbonGalleryPopup::isClosedFromOutside()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
+    QVERIFY(window.openPopup());
+    window.closePopup();
+    QVERIFY(window.menu()->isHidden());
+    QVERIFY(window.openPopup());
+    Gui::click(&window, window.rect().bottomRight() - QPoint(5, 5));
+    QVERIFY(window.menu()->isHidden());
+    QCOMPARE(triggered.count(), 0);
+}
+
+void tst_RibbonGalleryPopup::staysOpenForClicksOnNothing()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
+    QVERIFY(window.openPopup());
+    const RibbonGalleryGroup *group = window.group(0);
+    // A title, the room beside an item, and below all groups.
+    Gui::click(group->findChildren<QLabel *>().value(1));
+    Gui::click(group, {group->width() - 50, 60});
+    Gui::click(window.popup()->widget(), {50, window.popup()->widget()->height() - 2});
+    QVERIFY(window.menu()->isVisible());
+    QCOMPARE(triggered.count(), 0);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::groupsKnowWhereTheyStand()
+{
+    GalleryWindow window;
+    window.add(u"A"_s, {});
+    QCOMPARE(buttons(window), u"/A"_s);
+    window.add(u"B"_s, {});
+    QCOMPARE(buttons(window), u"B/A"_s);
+    window.add(u"C"_s, {});
+    QCOMPARE(buttons(window), u"BC/AB"_s);
+    window.add(u"D"_s, {});
+    QCOMPARE(buttons(window), u"BCD/ABC"_s);
+    QCOMPARE(titles(window), QStringList({u"A"_s, u"B"_s, u"C"_s, u"D"_s}));
+}
+
+void tst_RibbonGalleryPopup::groupsAreMoved()
+{
+    GalleryWindow window;
+    window.gallery->setDispalyCount(3);
+    for (const QString &title : {u"A"_s, u"B"_s, u"C"_s})
+        window.add(title, {title + u'0'});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QSignalSpy updated(window.popup(), &RibbonGalleryPopup::signalGroupUpdated);
+    QSignalSpy told(window.popup(), &RibbonGalleryPopup::signalHeightChanged);
+    Gui::click(GalleryWindow::toBottomOf(window.group(0)));
+    QCOMPARE(titles(window), QStringList({u"B"_s, u"C"_s, u"A"_s}));
+    QCOMPARE(buttons(window), u"CA/BC"_s);
+    QCOMPARE(updated.count(), 1);
+    QCOMPARE(window.strip(), QStringList({u"B0"_s, u"C0"_s, u"A0"_s}));
+    QTRY_VERIFY(window.group(0)->y() < window.group(1)->y());
+    QVERIFY(window.group(1)->y() < window.group(2)->y());
+    Gui::click(GalleryWindow::toTopOf(window.group(1)));
+    QCOMPARE(titles(window), QStringList({u"C"_s, u"B"_s, u"A"_s}));
+    QCOMPARE(updated.count(), 2);
+    QCOMPARE(told.count(), 0);
+    QVERIFY(window.menu()->isVisible());
+    // Numbers and titles mean the groups where they stand now.
+    QCOMPARE(window.popup()->indexOfGroup(u"B"_s), 1);
+    QCOMPARE(window.gallery->addItem(0, window.createAction(u"C1"_s)), 1);
+    QCOMPARE(window.group(0)->title(), u"C"_s);
+    QCOMPARE(window.group(0)->count(), 2);
+    window.closePopup();
+    // The collected group stays above all.
+    window.gallery->setItemCollected(2, 0, true);
+    QVERIFY(window.openPopup());
+    Gui::click(GalleryWindow::toTopOf(window.group(2)));
+    QTRY_VERIFY(window.collected()->y() < window.group(0)->y());
+    QCOMPARE(window.collected()->title(), u"collected"_s);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::groupMovesLikeTheModel()
+{
+    QRandomGenerator random(7);
+    GalleryWindow window;
+    window.gallery->setDispalyCount(5);
+    QStringList model;
+    for (int i = 0; i < 5; ++i) {
+        model << QString(QChar('A' + i));
+        window.add(model.constLast(), {model.constLast()});
+    }
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    for (int step = 0; step < 100; ++step) {
+        const int at = int(random.bounded(model.size()));
+        const bool up = at == model.size() - 1 || (at > 0 && random.bounded(2) == 0);
+        Gui::click(up ? GalleryWindow::toTopOf(window.group(at))
+                      : GalleryWindow::toBottomOf(window.group(at)));
+        model.move(at, up ? 0 : model.size() - 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(titles(window), model);
+        QCOMPARE(buttons(window),
+                 model.mid(1).join(QString()) + u'/' + model.first(4).join(QString()));
+        QCOMPARE(window.strip(), model);
+    }
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::estimatesItsHeight_data()
+{
+    QTest::addColumn<QList<int>>("items");
+    QTest::addColumn<int>("collected");
+    QTest::addColumn<int>("displayCount");
+    QTest::addColumn<int>("height");
+    QTest::newRow("nothing") << QList<int>() << 0 << 6 << 62;
+    QTest::newRow("a group without items") << QList<int>{0} << 0 << 6 << 130;
+    QTest::newRow("one item") << QList<int>{1} << 0 << 6 << 130;
+    QTest::newRow("a full row") << QList<int>{6} << 0 << 6 << 130;
+    QTest::newRow("one more") << QList<int>{7} << 0 << 6 << 204;
+    QTest::newRow("two full rows") << QList<int>{12} << 0 << 6 << 204;
+    QTest::newRow("three rows") << QList<int>{13} << 0 << 6 << 278;
+    QTest::newRow("two groups") << QList<int>{7, 2} << 0 << 6 << 302;
+    QTest::newRow("a collected item") << QList<int>{7, 2} << 1 << 6 << 400;
+    QTest::newRow("two rows of collected items") << QList<int>{7, 2} << 7 << 6 << 474;
+    QTest::newRow("short rows") << QList<int>{7} << 0 << 2 << 352;
+    QTest::newRow("one in a row") << QList<int>{7} << 0 << 1 << 574;
+    QTest::newRow("no row at all") << QList<int>{7} << 0 << 0 << 574;
+    QTest::newRow("a negative row") << QList<int>{7} << 0 << -6 << 574;
+    QTest::newRow("long rows") << QList<int>{20} << 0 << 25 << 130;
+}
+
+void tst_RibbonGalleryPopup::estimatesItsHeight()
+{
+    QFETCH(QList<int>, items);
+    QFETCH(int, collected);
+    QFETCH(int, displayCount);
+    QFETCH(int, height);
+    GalleryWindow window;
+    window.gallery->setDispalyCount(displayCount);
+    for (const int count : std::as_const(items))
+        window.add(u"Group"_s, texts(count));
+    for (int i = 0; i < collected; ++i)
+        window.gallery->setItemCollected(0, i, true);
+    QCOMPARE(window.popup()->computedHeight(true), height);
+    QVERIFY(window.open());
+    window.popupButton()->click();
+    QVERIFY(window.menu()->isVisible());
+    QCOMPARE(window.popup()->computedHeight(true), height);
+    QCOMPARE(window.popup()->computedHeight(false), height);
+    QCOMPARE(window.popup()->height(), height);
+    QCOMPARE(window.popup()->widget()->height(), height);
+    QCOMPARE(window.collected()->isVisible(), collected > 0);
+    window.menu()->close();
+}
+
+void tst_RibbonGalleryPopup::countsHiddenGroupsIfAsked()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(7));
+    window.add(u"Two"_s, {u"x"_s});
+    window.gallery->setItemCollected(0, 0, true);
+    QVERIFY(window.open());
+    // Nothing is visible in a closed popup.
+    QCOMPARE(window.popup()->computedHeight(false), 62);
+    QVERIFY(window.openPopup());
+    window.search(u"x"_s);
+    QCOMPARE(window.popup()->computedHeight(false), searchHeight + 98);
+    QCOMPARE(window.popup()->computedHeight(true), searchHeight + 98 + neededHeight(7) + 98);
+    window.search(u"xx"_s);
+    QCOMPARE(window.popup()->computedHeight(false), 62);
+    QCOMPARE(window.popup()->computedHeight(true), searchHeight + 98 + neededHeight(7) + 98);
+    QVERIFY(window.group(0)->isHidden());
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::tellsItsHeight()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(7));
+    window.add(u"Two"_s, {u"x"_s});
+    QVERIFY(window.open());
+    QSignalSpy told(window.popup(), &RibbonGalleryPopup::signalHeightChanged);
+    QVERIFY(window.openPopup());
+    const int all = searchHeight + neededHeight(7) + 98;
+    QVERIFY(!told.isEmpty());
+    for (const int height : heights(told))
+        QCOMPARE(height, all);
+    told.clear();
+    window.search(u"x"_s);
+    QCOMPARE(heights(told), QList<int>{searchHeight + 98});
+    // Once for every letter, also if nothing changes.
+    told.clear();
+    window.search(QString());
+    QCOMPARE(heights(told), QList<int>{all});
+    told.clear();
+    window.search(u"Item"_s);
+    QCOMPARE(heights(told), QList<int>(4, searchHeight + neededHeight(7)));
+    window.search(QString());
+    told.clear();
+    window.clickMarker(window.item(0, 0));
+    QCOMPARE(heights(told), QList<int>{all + 98});
+    told.clear();
+    window.clickMarker(window.item(0, 0));
+    QCOMPARE(told.constLast().constFirst().toInt(), all);
+    told.clear();
+    window.closePopup();
+    QCoreApplication::processEvents();
+    QCOMPARE(told.count(), 0);
+}
+
+void tst_RibbonGalleryPopup::makesRoomForItsScrollBar()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(100));
+    window.add(u"Two"_s, {u"x"_s});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    const int width = window.gallery->width();
+    const QWidget *content = window.popup()->widget();
+    const auto frameIsAsWideAs = [&](int expected) {
+        QCOMPARE(content->minimumWidth(), expected);
+        QCOMPARE(content->maximumWidth(), expected);
+        QCOMPARE(content->width(), expected);
+    };
+    frameIsAsWideAs(width);
+    QCOMPARE(window.popup()->width(), width + 17);
+    QVERIFY(window.popup()->viewport()->width() >= width);
+    window.search(u"x"_s);
+    frameIsAsWideAs(width);
+    QCOMPARE(window.popup()->width(), width);
+    QCOMPARE(content->minimumHeight(), searchHeight + 98);
+    QCOMPARE(content->maximumHeight(), searchHeight + 98);
+    // A popup that nobody gives more width loses the bar's.
+    RibbonGalleryPopup popup;
+    popup.addGroup(u"One"_s, QIcon());
+    popup.resize(300, 400);
+    popup.show();
+    QCOMPARE(popup.widget()->width(), 300);
+    popup.hide();
+    popup.resize(300, 129);
+    popup.show();
+    QCOMPARE(popup.widget()->size(), QSize(283, 130));
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchesByTyping()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"alpha"_s, u"beta"_s, u"alphabet"_s, u"gamma"_s});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    Gui::click(window.edit());
+    const auto found = [&] { return GalleryWindow::visibleTexts(window.group(0)); };
+    QTest::keyClick(window.windowHandle(), 'b');
+    QCOMPARE(found(), QStringList({u"beta"_s, u"alphabet"_s}));
+    QTest::keyClick(window.windowHandle(), 'e');
+    QTest::keyClick(window.windowHandle(), 't');
+    QCOMPARE(found(), QStringList({u"beta"_s, u"alphabet"_s}));
+    QTest::keyClick(window.windowHandle(), 'a');
+    QCOMPARE(found(), QStringList({u"beta"_s}));
+    // What is found closes up.
+    QTRY_COMPARE(window.item(0, 1)->pos(), QPoint(3, 5));
+    QTest::keyClick(window.windowHandle(), Qt::Key_Home);
+    QTest::keyClick(window.windowHandle(), 'a');
+    QCOMPARE(found(), QStringList());
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
+    QCOMPARE(window.edit()->text(), u"a"_s);
+    QCOMPARE(found().size(), 4);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Backspace);
+    QCOMPARE(found().size(), 4);
+    QTRY_COMPARE(window.item(0, 3)->pos(), QPoint(3 + 3 * 90, 5));
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchHeedsCase()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"ABC"_s, u"abc"_s, u"xabcx"_s, u"aBc"_s});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.search(u"abc"_s);
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList({u"abc"_s, u"xabcx"_s}));
+    window.search(u"B"_s);
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList({u"ABC"_s, u"aBc"_s}));
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchHidesGroupsWithoutMatches()
+{
+    GalleryWindow window;
+    window.add(u"x"_s, {u"one"_s});
+    window.add(u"Two"_s, {u"x"_s, u"two"_s});
+    window.add(u"Three"_s, {u"xx"_s});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.search(u"x"_s);
+    // A title is no match.
+    QVERIFY(window.group(0)->isHidden());
+    QVERIFY(window.group(1)->isVisible());
+    QVERIFY(window.group(2)->isVisible());
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(1)), QStringList(u"x"_s));
+    QTRY_COMPARE(window.group(1)->y() + window.group(1)->height(), window.group(2)->y());
+    QVERIFY(window.noMatchLabel()->isHidden());
+    window.search(u"xx"_s);
+    QVERIFY(window.group(1)->isHidden());
+    QVERIFY(window.group(2)->isVisible());
+    window.search(QString());
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(window.group(i)->isVisible());
+        QCOMPARE(GalleryWindow::visibleTexts(window.group(i)).size(), window.group(i)->count());
+    }
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchThatFindsNothing()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(3));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.search(u"z"_s);
+    QVERIFY(window.group(0)->isHidden());
+    const QLabel *label = window.noMatchLabel();
+    QVERIFY(label->isVisible());
+    QCOMPARE(window.popup()->height(), 62);
+    const QRect where(label->mapTo(window.popup(), QPoint()), label->size());
+    QVERIFY(window.popup()->rect().contains(where.center()));
+    QCOMPARE(where.width(), window.popup()->width());
+    QVERIFY(window.edit()->hasFocus());
+    window.search(u"Item"_s);
+    QVERIFY(label->isHidden());
+    window.search(u"z"_s);
+    QVERIFY(label->isVisible());
+    window.search(QString());
+    QVERIFY(label->isHidden());
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchIsTextNotAPattern()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"a.c"_s, u"abc"_s, u"&Save"_s, u"two\nlines"_s, u"Open..."_s});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    // What is searched is what stands on the button, which shortens the action's text.
+    for (const auto &[text, found] :
+         {std::pair(u"."_s, u"a.c"_s), std::pair(u"Save"_s, u"Save"_s),
+          std::pair(u"lin"_s, u"two\nlines"_s), std::pair(u"Open"_s, u"Open"_s)}) {
+        window.search(text);
+        QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(found));
+    }
+    for (const QString &text : {u"*"_s, u"&S"_s, u"^a"_s, u"Open."_s}) {
+        window.search(text);
+        QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList());
+    }
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchFindsTextsAsTheyAre()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"one"_s, u"two"_s});
+    QVERIFY(window.open());
+    window.item(0, 1)->defaultAction()->setText(u"new"_s);
+    QVERIFY(window.openPopup());
+    window.search(u"new"_s);
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"new"_s));
+    // A text that changes is not searched before the next letter.
+    window.item(0, 0)->defaultAction()->setText(u"newest"_s);
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"new"_s));
+    QTest::keyClick(window.windowHandle(), 'e');
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"newest"_s));
+    // What is added meanwhile is shown.
+    window.gallery->addItem(0, window.createAction(u"other"_s));
+    QTRY_COMPARE(GalleryWindow::visibleTexts(window.group(0)),
+                 QStringList({u"newest"_s, u"other"_s}));
+    QTest::keyClick(window.windowHandle(), 's');
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"newest"_s));
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchCoversCollectedItemsIfEnabled()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"a"_s, u"b"_s});
+    window.gallery->setItemCollected(0, 0, true);
+    window.gallery->setItemCollected(0, 1, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.search(u"a"_s);
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList(u"a"_s));
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"a"_s));
+    window.search(u"z"_s);
+    QVERIFY(window.collected()->isHidden());
+    window.closePopup();
+
+    window.gallery->setCollectEnabled(false);
+    QVERIFY(window.openPopup());
+    window.search(u"a"_s);
+    QVERIFY(window.collected()->isVisible());
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList({u"a"_s, u"b"_s}));
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(u"a"_s));
+    window.search(u"z"_s);
+    QVERIFY(window.collected()->isVisible());
+    QVERIFY(window.noMatchLabel()->isVisible());
+    QCOMPARE(window.popup()->height(), searchHeight + 98);
+    window.closePopup();
+}
+
+// No item of theirs matches, not even an empty text.
+void tst_RibbonGalleryPopup::searchHidesGroupsWithoutItems()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    window.add(u"Empty"_s, {});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QVERIFY(window.group(1)->isVisible());
+    QCOMPARE(window.popup()->height(), searchHeight + 98 + 98);
+    window.search(u"I"_s);
+    QVERIFY(window.group(1)->isHidden());
+    window.search(QString());
+    QVERIFY(window.group(0)->isVisible());
+    QVERIFY(window.group(1)->isHidden());
+    QVERIFY(window.collected()->isHidden());
+    QCOMPARE(window.popup()->height(), searchHeight + 98);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchForThousandsOfLetters()
+{
+    GalleryWindow window;
+    const QString longText(20000, u'w');
+    window.add(u"One"_s, {u"w"_s, longText});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.edit()->setMaxLength(1 << 20);
+    window.edit()->setText(longText.first(9000));
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList(longText));
+    window.edit()->setText(longText + longText);
+    QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), QStringList());
+    QCOMPARE(window.popup()->height(), 62);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::searchIsClearedWhenItCloses()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(2));
+    window.add(u"Two"_s, {u"x"_s});
+    QVERIFY(window.open());
+    for (const QString &text : {u"x"_s, u"nothing"_s}) {
+        QVERIFY(window.openPopup());
+        window.search(text);
+        window.closePopup();
+        QVERIFY(window.menu()->isHidden());
+        QCOMPARE(window.edit()->text(), QString());
+        QVERIFY(window.openPopup());
+        QCOMPARE(GalleryWindow::visibleTexts(window.group(0)), texts(2));
+        QVERIFY(window.group(0)->isVisible());
+        QVERIFY(window.group(1)->isVisible());
+        QVERIFY(window.noMatchLabel()->isHidden());
+        QCOMPARE(window.popup()->height(), searchHeight + 98 + 98);
+        window.closePopup();
+    }
+}
+
+// Before there is a group, the label that tells of no match has no place in the popup. It comes up
+// as a window of its own, but not to stay.
+void tst_RibbonGalleryPopup::searchOfAnEmptyCatalogue()
+{
+    GalleryWindow window;
+    QVERIFY(window.open());
+    window.popupButton()->click();
+    QVERIFY(window.menu()->isVisible());
+    QCOMPARE(window.popup()->height(), 62);
+    QCOMPARE(window.noMatchLabel(), nullptr);
+    QLabel *label = nullptr;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *widget : windows) {
+        if (auto *candidate = qobject_cast<QLabel *>(widget))
+            label = candidate;
+    }
+    QVERIFY(label);
+    QVERIFY(label->isHidden());
+    QCOMPARE(label->text(), u"No items match your search criteria."_s);
+    window.edit()->setText(u"x"_s);
+    QCoreApplication::processEvents();
+    window.menu()->close();
+    QVERIFY(label->isHidden());
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+    QCOMPARE(window.edit()->text(), QString());
+
+    // The first group gives it its place.
+    window.add(u"One"_s, texts(1));
+    QCOMPARE(window.noMatchLabel(), label);
+    QVERIFY(label->isHidden());
+    window.popupButton()->click();
+    window.edit()->setText(u"x"_s);
+    QVERIFY(label->isVisible());
+    QVERIFY(window.menu()->isVisible());
+    window.menu()->close();
+}
+
+void tst_RibbonGalleryPopup::updatesTheStripAfterItIsHidden()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    QVERIFY(window.open());
+    QSignalSpy update(window.popup(), &RibbonGalleryPopup::signalUpdateDisplayedItems);
+    for (int i = 1; i < 4; ++i) {
+        QVERIFY(window.openPopup());
+        QCoreApplication::processEvents();
+        QCOMPARE(update.count(), i - 1);
+        window.menu()->close();
+        QCOMPARE(update.count(), i - 1);
+        QTRY_COMPARE(update.count(), i);
+        QCoreApplication::processEvents();
+        QCOMPARE(update.count(), i);
+    }
+}
+
+void tst_RibbonGalleryPopup::collectsACopy()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(3));
+    QVERIFY(window.open());
+    window.gallery->setIconSize({16, 16});
+    window.gallery->setActionSize({70, 50});
+    QVERIFY(window.openPopup());
+    QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
+    window.clickMarker(window.item(0, 1));
+    QCOMPARE(window.collected()->count(), 1);
+    QVERIFY(window.collected()->isVisible());
+    const RibbonGalleryItem *copy = window.collected()->item(0);
+    QCOMPARE(copy->defaultAction(), window.item(0, 1)->defaultAction());
+    QCOMPARE(copy->iconSize(), QSize(16, 16));
+    QCOMPARE(copy->size(), QSize(70, 50));
+    QVERIFY(copy->isVisible());
+    QVERIFY(copy->isCollected());
+    QVERIFY(isMarked(copy));
+    QVERIFY(isMarked(window.item(0, 1)));
+    QCOMPARE(window.popup()->height(), searchHeight + 98 + 98);
+    QTRY_COMPARE(copy->pos(), QPoint(3, 5));
+    QCOMPARE(triggered.count(), 0);
+
+    // It stays marked without the mouse, and it triggers the same action.
+    Gui::moveMouse(window.edit(), {3, 3});
+    QVERIFY(isMarked(copy));
+    Gui::click(copy, {35, 35});
+    QCOMPARE(triggered.count(), 1);
+    QCOMPARE(triggered.constFirst().constFirst().value<QAction *>()->text(), u"Item 1"_s);
+}
+
+void tst_RibbonGalleryPopup::collectsACopyForEachTime()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(2));
+    for (int i = 1; i < 4; ++i) {
+        QVERIFY(window.gallery->setItemCollected(0, 1, true));
+        QCOMPARE(window.collected()->count(), i);
+    }
+    const QPointer<RibbonGalleryItem> first = window.collected()->item(0);
+    for (int i = 2; i >= 0; --i) {
+        QVERIFY(window.gallery->setItemCollected(0, 1, false));
+        QVERIFY(!first);
+        QCOMPARE(window.collected()->count(), i);
+    }
+    QVERIFY(window.gallery->setItemCollected(0, 1, false));
+    QCOMPARE(window.collected()->count(), 0);
+}
+
+void tst_RibbonGalleryPopup::uncollectsTheCopyOfAnItem()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(3));
+    for (int i = 0; i < 3; ++i)
+        window.gallery->setItemCollected(0, i, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()), texts(3));
+    const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
+    window.clickMarker(window.item(0, 1));
+    QVERIFY(!copy);
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()),
+             QStringList({u"Item 0"_s, u"Item 2"_s}));
+    QVERIFY(!window.item(0, 1)->isCollected());
+    window.clickMarker(window.item(0, 0));
+    window.clickMarker(window.item(0, 2));
+    QCOMPARE(window.collected()->count(), 0);
+    QVERIFY(window.collected()->isHidden());
+    QCOMPARE(window.popup()->height(), searchHeight + 98);
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::uncollectsByTheCopy()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(3));
+    window.gallery->setItemCollected(0, 0, true);
+    window.gallery->setItemCollected(0, 2, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QSignalSpy told(window.item(0, 2), &RibbonGalleryItem::signalCollected);
+    QSignalSpy other(window.item(0, 0), &RibbonGalleryItem::signalCollected);
+    const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
+    window.clickMarker(copy);
+    QVERIFY(!copy);
+    QVERIFY(!window.item(0, 2)->isCollected());
+    QVERIFY(!isMarked(window.item(0, 2)));
+    QVERIFY(window.item(0, 0)->isCollected());
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(other.count(), 0);
+    QVERIFY(window.menu()->isVisible());
+    window.clickMarker(window.collected()->item(0));
+    QCOMPARE(window.collected()->count(), 0);
+    QVERIFY(window.collected()->isHidden());
+    QCOMPARE(window.popup()->height(), searchHeight + 98);
+    window.closePopup();
+    QTRY_COMPARE(window.strip().last(6).first(3), texts(3));
+}
+
+void tst_RibbonGalleryPopup::uncollectsAnActionInSeveralGroups()
+{
+    GalleryWindow window;
+    QAction *action = window.createAction(u"shared"_s);
+    window.gallery->addItem(u"One"_s, action);
+    window.gallery->addItem(u"One"_s, action);
+    window.gallery->addItem(u"Two"_s, action);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    for (const auto &[group, item] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 0)})
+        window.clickMarker(window.item(group, item));
+    QCOMPARE(window.collected()->count(), 3);
+    // One copy for the click and one for the first item of each group; the second item of the
+    // first group stays collected without a copy.
+    window.clickMarker(window.collected()->item(0));
+    QCOMPARE(window.collected()->count(), 0);
+    QVERIFY(!window.item(0, 0)->isCollected());
+    QVERIFY(window.item(0, 1)->isCollected());
+    QVERIFY(!window.item(1, 0)->isCollected());
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::collectsWhileItIsSearched()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, {u"a"_s, u"b"_s, u"ab"_s});
+    window.gallery->setItemCollected(0, 0, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    window.search(u"b"_s);
+    QVERIFY(window.collected()->isHidden());
+    window.clickMarker(window.item(0, 2));
+    QVERIFY(window.collected()->isVisible());
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList(u"ab"_s));
+    QCOMPARE(window.popup()->height(), searchHeight + 98 + 98);
+    window.clickMarker(window.collected()->item(1));
+    QCOMPARE(window.collected()->count(), 1);
+    // Where nothing that matches is left, the hidden items keep the group's place.
+    QVERIFY(window.collected()->isVisible());
+    window.search(QString());
+    QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList(u"a"_s));
+    window.closePopup();
+}
+
+NORVANE_TEST_MAIN(tst_RibbonGalleryPopup)
+#include "tst_RibbonGalleryPopup.moc"
