@@ -8,9 +8,10 @@
 #include "documents/Document.h"
 #include "files/FileCommands.h"
 #include "files/RecentFiles.h"
+#include "options/Options.h"
+#include "options/OptionsDialog.h"
 #include "ribbon/DocumentPage.h"
 #include "ribbon/WorkbenchRibbon.h"
-#include "text/TextOptions.h"
 #include "views/Panels.h"
 
 #include <Norvane/DockContainer.h>
@@ -50,11 +51,11 @@ static NorvaneAgent *frame(QMainWindow *window)
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_agent(frame(this))
-    , m_textOptions(new TextOptions(this))
+    , m_options(new Options(this))
     , m_recent(new RecentFiles(this))
     , m_tabs(new DocumentTabs(m_agent->dockContainer()->contentWidget()))
-    , m_files(new FileCommands(m_tabs, m_recent, m_textOptions, this))
-    , m_ribbon(new WorkbenchRibbon(m_agent->ribbonBar(), m_files, m_recent, m_textOptions))
+    , m_files(new FileCommands(m_tabs, m_recent, m_options->text(), this))
+    , m_ribbon(new WorkbenchRibbon(m_agent->ribbonBar(), m_files, m_recent, m_options->text()))
     , m_panels(new Panels(m_agent->dockContainer(), m_tabs, m_files))
     , m_message(new QLabel)
     , m_summary(new QLabel)
@@ -78,6 +79,8 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_ribbon, &WorkbenchRibbon::fullScreenWanted, this, &MainWindow::setFullScreen);
     connect(m_ribbon, &WorkbenchRibbon::helpWanted, this,
             [this] { HelpDialog(m_ribbon->commands(), this).exec(); });
+    connect(m_ribbon, &WorkbenchRibbon::optionsWanted, this,
+            [this] { OptionsDialog(m_options, this).exec(); });
     setDocument(nullptr);
     restoreLayout();
 }
@@ -95,7 +98,10 @@ void MainWindow::open(const QStringList &paths)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    saveLayout();
+    if (m_options->keepsLayout())
+        saveLayout();
+    else
+        resetLayout();
     event->setAccepted(m_files->closeAll());
 }
 
@@ -170,6 +176,8 @@ void MainWindow::resetLayout()
 
 void MainWindow::restoreLayout()
 {
+    if (!m_options->keepsLayout())
+        return;
     const QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("layout/window")).toByteArray());
     m_agent->dockContainer()->restoreState(

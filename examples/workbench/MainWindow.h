@@ -13,9 +13,9 @@ namespace Workbench {
 class Document;
 class DocumentTabs;
 class FileCommands;
+class Options;
 class Panels;
 class RecentFiles;
-class TextOptions;
 class WorkbenchRibbon;
 
 /*!
@@ -52,7 +52,7 @@ private:
     void saveLayout() const;
 
     NorvaneAgent *m_agent;
-    TextOptions *m_textOptions;
+    Options *m_options;
     RecentFiles *m_recent;
     DocumentTabs *m_tabs;
     FileCommands *m_files;

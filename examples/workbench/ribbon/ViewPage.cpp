@@ -51,7 +51,14 @@ ViewPage::ViewPage(TextOptions *textOptions, QWidget *parent)
                                {QKeySequence(u"F11"_s)}});
     m_fullScreen->setCheckable(true);
     connect(m_fullScreen, &QAction::triggered, this, &ViewPage::fullScreenWanted);
-    addGroup(tr("Window"))->addAction(m_fullScreen);
+    QAction *options = addCommand({tr("Options"),
+                                   "options"_L1,
+                                   tr("Set the font, which files open here, and more"),
+                                   {QKeySequence(u"Ctrl+,"_s)}});
+    connect(options, &QAction::triggered, this, &ViewPage::optionsWanted);
+    Norvane::RibbonGroup *window = addGroup(tr("Window"));
+    window->addAction(m_fullScreen);
+    window->addAction(options);
     refresh();
 }
 

@@ -23,6 +23,7 @@ public:
 
 Q_SIGNALS:
     void fullScreenWanted(bool fullScreen);
+    void optionsWanted();
 
 protected:
     void refresh() override;

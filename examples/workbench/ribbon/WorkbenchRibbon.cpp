@@ -29,6 +29,7 @@ WorkbenchRibbon::WorkbenchRibbon(Norvane::RibbonBar *bar, FileCommands *files, R
     m_homePage = home;
     m_viewPage = new ViewPage(textOptions);
     connect(m_viewPage, &ViewPage::fullScreenWanted, this, &WorkbenchRibbon::fullScreenWanted);
+    connect(m_viewPage, &ViewPage::optionsWanted, this, &WorkbenchRibbon::optionsWanted);
     m_textPage = new TextPage(textOptions);
     m_picturePage = new PicturePage;
     m_pages = {m_homePage, m_viewPage, m_textPage, m_picturePage};

@@ -48,6 +48,7 @@ public:
 Q_SIGNALS:
     void fullScreenWanted(bool fullScreen);
     void helpWanted();
+    void optionsWanted();
     void findInAllWanted();
 
 private:

@@ -68,7 +68,7 @@ void TextEditor::applyOptions()
     // The sheet of the panels has a font for all text in them; the widget's own sheet comes first.
     setStyleSheet(QStringLiteral("QPlainTextEdit { font-family: \"%1\"; }").arg(zoomed.family()));
     setFont(zoomed);
-    setTabStopDistance(4 * QFontMetricsF(zoomed).horizontalAdvance(u' '));
+    setTabStopDistance(m_options->tabWidth() * QFontMetricsF(zoomed).horizontalAdvance(u' '));
     setLineWrapMode(m_options->wrap() ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
 }
 

@@ -6,14 +6,22 @@
 #include <QtGui/QFontDatabase>
 #include <QtGui/QFontInfo>
 
+#include <algorithm>
+
 namespace Workbench {
 
 TextOptions::TextOptions(QObject *parent)
     : QObject(parent)
-    , m_font(QFontDatabase::systemFont(QFontDatabase::FixedFont))
+    , m_font(defaultFont())
 {
-    if (m_font.pointSize() <= 0)
-        m_font.setPointSize(QFontInfo(m_font).pointSize());
+}
+
+QFont TextOptions::defaultFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (font.pointSize() <= 0)
+        font.setPointSize(QFontInfo(font).pointSize());
+    return font;
 }
 
 QFont TextOptions::font() const
@@ -39,6 +47,20 @@ void TextOptions::setWrap(bool wrap)
     if (m_wrap == wrap)
         return;
     m_wrap = wrap;
+    Q_EMIT changed();
+}
+
+int TextOptions::tabWidth() const
+{
+    return m_tabWidth;
+}
+
+void TextOptions::setTabWidth(int spaces)
+{
+    const int bounded = std::clamp(spaces, 1, 16);
+    if (m_tabWidth == bounded)
+        return;
+    m_tabWidth = bounded;
     Q_EMIT changed();
 }
 

@@ -71,6 +71,7 @@ Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
     zoom();
     editPicture();
     closeUnsaved();
+    setOptions();
     readHelp();
 }
 
@@ -294,6 +295,17 @@ void Tour::readHelp()
     m_player.addPicture(u"help"_s);
     m_player.add(
         u"leaving the help"_s,
+        [] { Input::press(QApplication::activeModalWidget(), Qt::Key_Escape); },
+        [] { return QApplication::activeModalWidget() == nullptr; });
+}
+
+void Tour::setOptions()
+{
+    addPageClick(u"View"_s);
+    addButtonClick(u"Options"_s, [] { return QApplication::activeModalWidget() != nullptr; });
+    m_player.addPicture(u"options"_s);
+    m_player.add(
+        u"leaving the options"_s,
         [] { Input::press(QApplication::activeModalWidget(), Qt::Key_Escape); },
         [] { return QApplication::activeModalWidget() == nullptr; });
 }

@@ -48,6 +48,7 @@ private:
     void zoom();
     void editPicture();
     void closeUnsaved();
+    void setOptions();
     void readHelp();
 
     void addPageClick(const QString &title);
