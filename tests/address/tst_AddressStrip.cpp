@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: Norvane contributors
 // SPDX-License-Identifier: MIT
 
+#include "Crumbs.h"
 #include "Folders.h"
+#include "History.h"
+#include "Modal.h"
 #include "Popup.h"
 #include "Steps.h"
 #include "TestCase.h"
@@ -151,44 +154,6 @@ public:
     QLineEdit *const field;
 };
 
-QList<AddressEntry *> entriesOf(const AddressStrip *strip)
-{
-    QList<AddressEntry *> entries;
-    for (int i = 0; i < strip->layout()->count(); ++i) {
-        if (auto *entry = qobject_cast<AddressEntry *>(strip->layout()->itemAt(i)->widget()))
-            entries << entry;
-    }
-    return entries;
-}
-
-//! What the crumbs say, without the root.
-QStringList crumbsOf(const AddressStrip *strip)
-{
-    QStringList texts;
-    const QList<AddressEntry *> entries = entriesOf(strip);
-    for (const AddressEntry *entry : entries)
-        texts << entry->text();
-    return texts.mid(1);
-}
-
-bool isEditing(const AddressStrip *strip)
-{
-    return strip->hasFocus() && strip->focusPolicy() == Qt::StrongFocus
-        && strip->cursor().shape() == Qt::IBeamCursor && strip->layout()->count() == 0;
-}
-
-bool showsCrumbs(const AddressStrip *strip)
-{
-    return !strip->hasFocus() && strip->focusPolicy() == Qt::NoFocus
-        && strip->cursor().shape() == Qt::ArrowCursor && strip->text().isEmpty()
-        && strip->layout()->count() == strip->path().count(u'/') + 2;
-}
-
-QString withBackslashes(QString path)
-{
-    return path.replace(u'/', u'\\');
-}
-
 //! The whole history, found out by walking it, and the index, at which the strip stands again.
 struct Walk
 {
@@ -249,24 +214,6 @@ public:
 private:
     QObject m_context;
 };
-
-//! Answers the modal window that \a act opens with \a answer. Returns whether one was opened.
-bool whileModal(const std::function<void()> &act, const std::function<void(QWidget *)> &answer)
-{
-    bool opened = false;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        QWidget *window = QApplication::activeModalWidget();
-        if (!window || !window->windowHandle() || !window->windowHandle()->isExposed())
-            return;
-        poll.stop();
-        opened = true;
-        answer(window);
-    });
-    poll.start(1);
-    act();
-    return opened;
-}
 
 } // namespace
 
@@ -1356,78 +1303,6 @@ void tst_AddressStrip::isDeletedByWhoeverHearsOfAChange()
     }
 }
 
-namespace {
-
-//! What the strip is meant to do, without widgets.
-struct Model
-{
-    QString path;
-    QStringList history;
-    int index = -1;
-    bool crumbs = false;
-    QStringList log;
-
-    void tell()
-    {
-        log << QStringLiteral("%1%2%3")
-                   .arg(index != 0)
-                   .arg(index != history.size() - 1)
-                   .arg(!path.isEmpty());
-    }
-    void show(qsizetype at)
-    {
-        index = int(at);
-        crumbs = true;
-        tell();
-        log << path;
-    }
-    void navigate(const QString &to)
-    {
-        QString next = QString(to).replace(u'\\', u'/');
-        while (next.endsWith(u'/'))
-            next.chop(1);
-        if (to.isEmpty() || next == path)
-            return;
-        path = next;
-        if (history.isEmpty() || history.last() != path)
-            history = history.mid(0, index + 1) << path;
-        show(history.size() - 1);
-        tell();
-    }
-    void reset(const QString &to)
-    {
-        history.clear();
-        index = -1;
-        navigate(to);
-    }
-    void step(int by)
-    {
-        if (index + by < 0 || index + by >= history.size())
-            return;
-        path = history.at(index + by);
-        show(index + by);
-    }
-    void up()
-    {
-        const QString above = path.section(u'/', 0, -2);
-        crumbs = false;
-        navigate(above.isEmpty() ? QStringLiteral("/") : above);
-        tell();
-    }
-    void slot(const QString &to)
-    {
-        crumbs = false;
-        navigate(to);
-    }
-    void edit()
-    {
-        crumbs = false;
-        path.replace(u'/', u'\\');
-    }
-};
-
-} // namespace
-
 void tst_AddressStrip::agreesWithAModel_data()
 {
     QTest::addColumn<quint32>("seed");
@@ -1452,7 +1327,7 @@ void tst_AddressStrip::agreesWithAModel()
         Window window(1200);
         if (!window.open())
             return QStringLiteral("no window");
-        Model model;
+        History model;
         Log log(window.strip);
         const auto tell = [story](const QString &what) { story->append(what); };
         for (const Steps::Step &step : steps) {
