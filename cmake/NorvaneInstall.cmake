@@ -4,6 +4,7 @@
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Norvane)
+set(norvane_translations_dir ${CMAKE_INSTALL_DATADIR}/norvane/translations)
 
 install(TARGETS Norvane EXPORT NorvaneTargets)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Norvane ${PROJECT_BINARY_DIR}/include/Norvane
@@ -16,6 +17,7 @@ configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/NorvaneConfig.cmake.in
     ${PROJECT_BINARY_DIR}/NorvaneConfig.cmake
     INSTALL_DESTINATION ${package_dir}
+    PATH_VARS norvane_translations_dir
     NO_SET_AND_CHECK_MACRO)
 # Before 1.0 a minor version may change the interface.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/NorvaneConfigVersion.cmake
@@ -31,5 +33,6 @@ file(RELATIVE_PATH pc_prefix ${pc_dir} ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+file(RELATIVE_PATH pc_datadir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_DATADIR})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/norvane.pc.in ${PROJECT_BINARY_DIR}/norvane.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/norvane.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -62,15 +62,15 @@
     </message>
     <message>
         <source>Cannot copy or move the file from %1 to %2. The Target folder is a subfolder of the source folder.</source>
-        <translation>Impossible de copier ou de déplacer « %1 » vers « %2 ». Le dossier cible est un sous-dossier du dossier source.</translation>
+        <translation>Impossible de copier ou de déplacer «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;». Le dossier cible est un sous-dossier du dossier source.</translation>
     </message>
     <message>
         <source>Cannot copy or move the file from %1 to %2. A file with the same name already exist.</source>
-        <translation>Impossible de copier ou de déplacer « %1 » vers « %2 ». Un fichier du même nom existe déjà.</translation>
+        <translation>Impossible de copier ou de déplacer «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;». Un fichier du même nom existe déjà.</translation>
     </message>
     <message>
         <source>Cannot copy or move the file from %1 to %2. File permission denied.</source>
-        <translation>Impossible de copier ou de déplacer « %1 » vers « %2 ». Les droits d’accès au fichier sont insuffisants.</translation>
+        <translation>Impossible de copier ou de déplacer «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;». Les droits d’accès au fichier sont insuffisants.</translation>
     </message>
     <message>
         <source>Copy Error</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>This folder already contains a file named %1. Do you want to replace the existing file or save the new file as a copy?</source>
-        <translation>Ce dossier contient déjà un fichier nommé « %1 ». Voulez-vous remplacer le fichier existant ou enregistrer le nouveau fichier en tant que copie ?</translation>
+        <translation>Ce dossier contient déjà un fichier nommé «&#xa0;%1&#xa0;». Voulez-vous remplacer le fichier existant ou enregistrer le nouveau fichier en tant que copie&#xa0;?</translation>
     </message>
     <message>
         <source>Replace Current</source>
@@ -154,7 +154,7 @@
     </message>
     <message>
         <source>Open the selected file with the external default program?</source>
-        <translation>Ouvrir le fichier sélectionné avec le programme externe par défaut ?</translation>
+        <translation>Ouvrir le fichier sélectionné avec le programme externe par défaut&#xa0;?</translation>
     </message>
     <message>
         <source>Copy Path</source>
