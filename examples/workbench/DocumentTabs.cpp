@@ -85,8 +85,11 @@ void DocumentTabs::add(std::unique_ptr<Document> document)
     m_content->addTab(int(added->kind()), added, added->title());
     showTitle(added);
     connect(added, &Document::changed, this, [this, added] { showTitle(added); });
+    connect(added, &Document::saved, this, &DocumentTabs::documentsChanged);
     setCurrentDocument(added);
     added->setFocus();
+    Q_EMIT documentAdded(added);
+    Q_EMIT documentsChanged();
 }
 
 void DocumentTabs::remove(Document *document)
@@ -94,6 +97,7 @@ void DocumentTabs::remove(Document *document)
     m_documents.removeOne(document);
     m_content->removeTab(m_content->sectionOf(document), m_content->tabOf(document));
     document->deleteLater();
+    Q_EMIT documentsChanged();
 }
 
 void DocumentTabs::showTitle(Document *document)

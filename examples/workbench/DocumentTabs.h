@@ -41,6 +41,9 @@ public:
     void remove(Document *document);
 
 Q_SIGNALS:
+    //! Documents were opened or closed, or one stands for another file now.
+    void documentsChanged();
+    void documentAdded(Workbench::Document *document);
     void currentDocumentChanged(Workbench::Document *document);
     void closeRequested(const QList<Workbench::Document *> &documents);
 

@@ -7,6 +7,7 @@
 #include "HelpDialog.h"
 #include "documents/Document.h"
 #include "files/FileCommands.h"
+#include "files/FileWatch.h"
 #include "files/RecentFiles.h"
 #include "options/Options.h"
 #include "options/OptionsDialog.h"
@@ -75,6 +76,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_tabs, &DocumentTabs::closeRequested, m_files,
             qOverload<const QList<Document *> &>(&FileCommands::close));
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(new FileWatch(m_tabs), &FileWatch::message, this, &MainWindow::showMessage);
     connect(m_ribbon, &WorkbenchRibbon::findInAllWanted, m_panels, &Panels::startFinding);
     connect(m_ribbon, &WorkbenchRibbon::fullScreenWanted, this, &MainWindow::setFullScreen);
     connect(m_ribbon, &WorkbenchRibbon::helpWanted, this,

@@ -25,6 +25,7 @@ Document::Document(QWidget *parent)
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_layout->addWidget(m_noticeBar);
+    connect(m_noticeBar, &NoticeBar::answered, this, &Document::readAgain);
 }
 
 Document::~Document() = default;
@@ -60,6 +61,7 @@ bool Document::load(const QString &path, QString *error)
     if (!read(file, error))
         return false;
     m_path = info.absoluteFilePath();
+    m_known = m_seen = stamp();
     return true;
 }
 
@@ -82,9 +84,41 @@ bool Document::saveAs(const QString &path, QString *error)
         return false;
     }
     m_path = QFileInfo(path).absoluteFilePath();
+    // What was to be said of the file before is settled.
+    if (!(m_seen == m_known))
+        setNotice(QString());
+    m_known = m_seen = stamp();
     markSaved();
+    Q_EMIT saved();
     Q_EMIT changed();
     return true;
+}
+
+bool Document::isFileForeign() const
+{
+    const Stamp now = stamp();
+    return now.size >= 0 && !(now == m_known);
+}
+
+void Document::followFile()
+{
+    const Stamp now = stamp();
+    if (now == m_seen)
+        return;
+    m_seen = now;
+    if (now == m_known) {
+        setNotice(QString());
+    } else if (now.size < 0) {
+        markUnsaved();
+        setNotice(tr("The file is gone. What you see here is in no file until you save it."));
+        Q_EMIT changed();
+    } else if (isModified()) {
+        m_noticeBar->ask(tr("Another program changed the file. Saving replaces what it wrote; "
+                            "reading the file again loses what you did here."),
+                         tr("Read Again"));
+    } else {
+        readAgain();
+    }
 }
 
 void Document::zoomIn()
@@ -105,6 +139,28 @@ void Document::setView(QWidget *view)
 {
     m_layout->addWidget(view);
     setFocusProxy(view);
+}
+
+Document::Stamp Document::stamp() const
+{
+    const QFileInfo info(m_path);
+    return info.exists() ? Stamp{info.lastModified(), info.size()} : Stamp();
+}
+
+void Document::readAgain()
+{
+    setNotice(QString());
+    QString error;
+    if (load(m_path, &error)) {
+        markSaved();
+        Q_EMIT followed();
+    } else {
+        markUnsaved();
+        setNotice(tr("Another program changed the file, and it could not be read again: %1 What "
+                     "you see here is in no file until you save it.")
+                      .arg(error));
+    }
+    Q_EMIT changed();
 }
 
 void Document::setNotice(const QString &notice)

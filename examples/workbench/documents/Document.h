@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QtCore/QDateTime>
 #include <QtWidgets/QWidget>
 
 class QFile;
@@ -46,6 +47,14 @@ public:
     //! Writes to \a path, which the document stands for from then on.
     bool saveAs(const QString &path, QString *error);
 
+    //! Whether the file exists and is not the one that was read or written last.
+    bool isFileForeign() const;
+    /*!
+        Looks at the file again. If another program changed it, it is read again; but where that
+        would lose what the user did, or the file is gone, a notice says so and nothing is lost.
+    */
+    void followFile();
+
     virtual bool isModified() const = 0;
     virtual bool canUndo() const = 0;
     virtual bool canRedo() const = 0;
@@ -69,6 +78,10 @@ public:
 Q_SIGNALS:
     //! Anything that the window or the ribbon shows of the document has changed.
     void changed();
+    //! The document was saved, perhaps under another name.
+    void saved();
+    //! The file was changed by another program and read again.
+    void followed();
 
 protected:
     explicit Document(QWidget *parent = nullptr);
@@ -81,11 +94,30 @@ protected:
     virtual bool write(QSaveFile &file, QString *error) = 0;
     //! The content is now what the file holds.
     virtual void markSaved() = 0;
+    //! The content is in no file.
+    virtual void markUnsaved() = 0;
 
 private:
+    //! What tells one state of a file from another.
+    struct Stamp
+    {
+        QDateTime changed;
+        qint64 size = -1;
+        bool operator==(const Stamp &other) const
+        {
+            return changed == other.changed && size == other.size;
+        }
+    };
+
+    Stamp stamp() const;
+    void readAgain();
+
     QVBoxLayout *m_layout;
     NoticeBar *m_noticeBar;
     QString m_path;
+    //! Of the file that was read or written last, or that the user was told of.
+    Stamp m_known;
+    Stamp m_seen;
 };
 
 } // namespace Workbench

@@ -12,6 +12,7 @@ namespace Workbench {
 NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent)
     , m_label(new QLabel)
+    , m_answer(new QPushButton)
 {
     setObjectName(QStringLiteral("noticeBar"));
     setStyleSheet(
@@ -22,6 +23,8 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_label->setTextFormat(Qt::PlainText);
     m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
+    m_answer->setFocusPolicy(Qt::NoFocus);
+    connect(m_answer, &QPushButton::clicked, this, &NoticeBar::answered);
     auto *close = new QPushButton(tr("Got it"));
     close->setFocusPolicy(Qt::NoFocus);
     connect(close, &QPushButton::clicked, this, [this] { setText(QString()); });
@@ -30,6 +33,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     layout->setContentsMargins(10, 5, 6, 5);
     layout->setSpacing(12);
     layout->addWidget(m_label, 1);
+    layout->addWidget(m_answer, 0, Qt::AlignTop);
     layout->addWidget(close, 0, Qt::AlignTop);
     hide();
 }
@@ -42,7 +46,15 @@ QString NoticeBar::text() const
 void NoticeBar::setText(const QString &text)
 {
     m_label->setText(text);
+    m_answer->hide();
     setVisible(!text.isEmpty());
+}
+
+void NoticeBar::ask(const QString &text, const QString &answer)
+{
+    setText(text);
+    m_answer->setText(answer);
+    m_answer->show();
 }
 
 } // namespace Workbench

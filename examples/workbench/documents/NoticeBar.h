@@ -6,12 +6,13 @@
 #include <QtWidgets/QFrame>
 
 class QLabel;
+class QPushButton;
 
 namespace Workbench {
 
 /*!
-    A strip above a document that says what the reader should know, until it is closed. It is
-    hidden while it has no text.
+    A strip above a document that says what the reader should know, or asks, until it is closed. It
+    is hidden while it has no text.
 */
 class NoticeBar : public QFrame
 {
@@ -22,9 +23,16 @@ public:
 
     QString text() const;
     void setText(const QString &text);
+    //! Shows \a text with a button \a answer.
+    void ask(const QString &text, const QString &answer);
+
+Q_SIGNALS:
+    //! The button of ask() was clicked.
+    void answered();
 
 private:
     QLabel *m_label;
+    QPushButton *m_answer;
 };
 
 } // namespace Workbench

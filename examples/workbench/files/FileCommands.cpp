@@ -67,6 +67,8 @@ void FileCommands::openPaths(const QStringList &paths)
 
 bool FileCommands::save(Document *document)
 {
+    if (document->isFileForeign() && !mayReplace(document))
+        return false;
     return saveTo(document, document->path());
 }
 
@@ -170,6 +172,17 @@ bool FileCommands::saveTo(Document *document, const QString &path)
     }
     warn(tr("Save"), tr("“%1” could not be saved.").arg(QFileInfo(path).fileName()), error);
     return false;
+}
+
+bool FileCommands::mayReplace(const Document *document)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Save"), tr("Replace “%1”?").arg(document->title()),
+                    QMessageBox::Save | QMessageBox::Cancel, m_window);
+    box.setInformativeText(tr("Another program has changed the file since it was read. What that "
+                              "program wrote is lost if you save."));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
 }
 
 bool FileCommands::mayClose(Document *document)

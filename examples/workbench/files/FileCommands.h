@@ -60,6 +60,7 @@ private:
     QString openFile(const QString &path);
     void openFolder(const QString &path);
     bool saveTo(Document *document, const QString &path);
+    bool mayReplace(const Document *document);
     bool mayClose(Document *document);
     void warn(const QString &title, const QString &text, const QString &reason);
 

@@ -223,6 +223,7 @@ bool PictureDocument::read(QFile &file, QString *error)
         return false;
     }
     m_view->setImage(image);
+    m_history->clear();
     if (reader.imageCount() > 1) {
         setNotice(tr("This file holds %1 pictures. The first one is shown, and saving keeps only "
                      "that.")
@@ -253,6 +254,11 @@ bool PictureDocument::write(QSaveFile &file, QString *error)
 void PictureDocument::markSaved()
 {
     m_history->setClean();
+}
+
+void PictureDocument::markUnsaved()
+{
+    m_history->resetClean();
 }
 
 } // namespace Workbench

@@ -52,6 +52,7 @@ protected:
     bool read(QFile &file, QString *error) override;
     bool write(QSaveFile &file, QString *error) override;
     void markSaved() override;
+    void markUnsaved() override;
 
 private:
     PictureView *m_view;

@@ -228,14 +228,18 @@ bool TextDocument::read(QFile &file, QString *error)
         *error = tr("It is neither a text nor a picture of a known format.");
         return false;
     }
+    const int position = m_editor->textCursor().position();
     LineEnds::load(m_editor->document(), decoded.text);
-    m_editor->moveCursor(QTextCursor::Start);
+    QTextCursor cursor(m_editor->document());
+    cursor.setPosition(std::min(position, m_editor->document()->characterCount() - 1));
+    m_editor->setTextCursor(cursor);
     // A few characters have a meaning of their own in a QTextDocument and do not come back.
     if (LineEnds::text(m_editor->document()) != decoded.text)
         decoded.damaged = true;
     m_encoding = m_savedEncoding = decoded.encoding;
-    if (decoded.damaged)
-        m_editor->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_editor->setTextInteractionFlags(decoded.damaged
+                                          ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                          : Qt::TextInteractionFlags(Qt::TextEditorInteraction));
     setNotice(noticeOf(decoded, bytes));
     return true;
 }
@@ -288,6 +292,11 @@ void TextDocument::markSaved()
 {
     m_savedEncoding = m_encoding;
     m_editor->document()->setModified(false);
+}
+
+void TextDocument::markUnsaved()
+{
+    m_editor->document()->setModified(true);
 }
 
 } // namespace Workbench

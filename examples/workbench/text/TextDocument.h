@@ -76,6 +76,7 @@ protected:
     bool read(QFile &file, QString *error) override;
     bool write(QSaveFile &file, QString *error) override;
     void markSaved() override;
+    void markUnsaved() override;
 
 private:
     QString noticeOf(const TextCodec::Decoded &decoded, const QByteArray &bytes) const;
