@@ -13,6 +13,8 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
+#include <filesystem>
+
 namespace Norvane {
 
 namespace {
@@ -33,14 +35,46 @@ bool isSame(const QFileInfo &one, const QFileInfo &other)
         return true;
     if (!isTaken(other))
         return false;
-    if (one.fileName() == other.fileName() && one.canonicalPath() == other.canonicalPath())
+    if (one.fileName() == other.fileName()
+        && one.absoluteDir().canonicalPath() == other.absoluteDir().canonicalPath()) {
         return true;
+    }
     return !other.isSymLink() && one.canonicalFilePath() == other.canonicalFilePath();
 }
 
 bool isInside(const QString &path, const QString &folder)
 {
     return path == folder || path.startsWith(folder + u'/');
+}
+
+struct Names
+{
+    QStringList files;
+    QStringList folders;
+    bool complete = true;
+};
+
+// What is not hidden in a folder. QDir leaves out not only the names that it cannot decode, but
+// all that come after one.
+Names namesIn(const QDir &folder)
+{
+    Names names;
+    std::error_code error;
+    std::filesystem::directory_iterator it(folder.filesystemPath(), error);
+    for (; !error && it != std::filesystem::directory_iterator(); it.increment(error)) {
+        const QFileInfo info(it->path());
+        if (info.filesystemFilePath() != it->path())
+            names.complete = false;
+        else if (info.isHidden())
+            continue;
+        else if (info.isFile())
+            names.files << info.fileName();
+        else if (info.isDir())
+            names.folders << info.fileName();
+    }
+    names.files.sort();
+    names.folders.sort();
+    return names;
 }
 
 QString freeName(const QString &path)
@@ -103,7 +137,7 @@ void AddressFileOperations::open(const QString &path)
 void AddressFileOperations::paste(QClipboard *clipboard, const QString &folder)
 {
     const QMimeData *data = clipboard->mimeData();
-    if (!data || !data->hasUrls())
+    if (!data || !data->hasUrls() || folder.isEmpty())
         return;
     // What the clipboard holds may change while a dialog is open.
     const QList<QUrl> urls = data->urls();
@@ -130,6 +164,7 @@ void AddressFileOperations::copy(const QString &source, const QString &target, b
     case TargetInsideSource:
     case TypeClash:
     case PermissionDenied:
+    case Unknown:
         showError(code, source, target);
         return;
     case SamePath:
@@ -166,7 +201,7 @@ QString AddressFileOperations::trashPath() const
 
 void AddressFileOperations::showError(int code, const QString &source, const QString &target)
 {
-    QString text = QStringLiteral("unknown error!");
+    QString text;
     switch (code) {
     case SourceMissing:
         text = tr("Source file does not exist");
@@ -184,6 +219,9 @@ void AddressFileOperations::showError(int code, const QString &source, const QSt
     case PermissionDenied:
         text = tr("Cannot copy or move the file from %1 to %2. File permission denied.")
                    .arg(source, target);
+        break;
+    default:
+        text = QStringLiteral("unknown error!");
         break;
     }
     QMessageBox box;
@@ -210,6 +248,7 @@ void AddressFileOperations::pasteOne(const QString &source, const QDir &folder, 
     case TargetInsideSource:
     case TypeClash:
     case PermissionDenied:
+    case Unknown:
         showError(code, source, target);
         return;
     case SamePath:
@@ -265,11 +304,12 @@ void AddressFileOperations::copyFolder(const QString &source, const QString &tar
     m_entered.append(QFileInfo(source).canonicalFilePath());
     const QDir from(source);
     const QDir to(target);
-    const QStringList files = from.entryList(QDir::Files);
-    for (const QString &name : files)
+    const Names names = namesIn(from);
+    if (!names.complete)
+        showError(Unknown, source, target);
+    for (const QString &name : names.files)
         copyFile(from.filePath(name), to.filePath(name), overwrite);
-    const QStringList folders = from.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &name : folders) {
+    for (const QString &name : names.folders) {
         // A link may lead back to where the copy comes from or goes to, and would do so for ever.
         const QString folder = QFileInfo(from, name).canonicalFilePath();
         if (!m_entered.contains(folder) && !isInside(to.canonicalPath(), folder))

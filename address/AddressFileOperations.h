@@ -19,9 +19,10 @@ namespace Norvane {
     What the folder tree does to files. Everything runs to its end before it returns, dialogs
     included; while a dialog is open, the tree may go and files may come and go.
 
-    What goes wrong is shown in a dialog if it can be told beforehand. What the file system refuses
-    later is not: a file that cannot be written is missing from the copy, and no more. Hidden
-    entries of a folder are not copied.
+    What goes wrong is shown in a dialog if it can be told beforehand, a folder with names that
+    cannot be decoded as an unknown error. What the file system refuses later is not: a file that
+    cannot be written is missing from the copy, and no more. Hidden entries of a folder are not
+    copied.
 
     A symbolic link is copied as what it leads to, and removed as a link.
 */
@@ -40,6 +41,7 @@ public:
         TypeClash = 5,
         PermissionDenied = 6, //!< No check finds it.
         TargetFree = 7,
+        Unknown = 8, //!< Nor this.
     };
 
     //! \a trashPath is what trashPath() returns as long as nothing is removed.
@@ -62,8 +64,9 @@ public:
 
     /*!
         Copies what \a clipboard holds into \a folder, or into the folder of the file \a folder,
-        and asks about what is there already. If the clipboard says "cut", every source is removed
-        after its copy, whatever became of the copy, and the clipboard is cleared.
+        and asks about what is there already. Nothing happens without such a folder. If the
+       clipboard says "cut", every source is removed after its copy, whatever became of the copy,
+       and the clipboard is cleared.
     */
     void paste(QClipboard *clipboard, const QString &folder);
 
