@@ -83,6 +83,13 @@ void AddressTreePrivate::updateSelectionActions()
     deleteAction->setEnabled(count > 0);
 }
 
+QString AddressTreePrivate::shownFolder() const
+{
+    Q_Q(const AddressTree);
+    // Before it is told of any folder, the model names the working directory and shows drives.
+    return q->rootIndex().isValid() ? model->rootPath() : QString();
+}
+
 QString AddressTreePrivate::targetFolder() const
 {
     Q_Q(const AddressTree);
@@ -192,7 +199,10 @@ void AddressTreePrivate::rename()
 void AddressTreePrivate::createFolder()
 {
     Q_Q(AddressTree);
-    const QModelIndex index = model->index(AddressFileOperations::createFolder(targetFolder()));
+    const QString folder = targetFolder();
+    if (folder.isEmpty())
+        return;
+    const QModelIndex index = model->index(AddressFileOperations::createFolder(folder));
     if (!index.isValid())
         return;
     q->setCurrentIndex(index);
@@ -271,7 +281,7 @@ QString AddressTree::targetPath() const
     Q_D(const AddressTree);
     if (!selectionModel()->selectedRows().isEmpty() && currentIndex().isValid())
         return d->model->filePath(currentIndex());
-    return d->model->rootPath();
+    return d->shownFolder();
 }
 
 QStringList AddressTree::selectedPaths() const
@@ -362,7 +372,7 @@ void AddressTree::dropEvent(QDropEvent *event)
     d->clipboard->setMimeData(AddressFileOperations::clipboardData(
         event->mimeData()->urls(), d->dropAction == Qt::MoveAction));
     const QModelIndex index = indexAt(event->position().toPoint());
-    d->paste(index.isValid() ? d->model->filePath(index) : d->model->rootPath());
+    d->paste(index.isValid() ? d->model->filePath(index) : d->shownFolder());
 }
 
 } // namespace Norvane

@@ -27,6 +27,7 @@ public:
     void createActions();
     void updatePasteAction();
     void updateSelectionActions();
+    QString shownFolder() const;
     QString targetFolder() const;
     void openIndex(const QModelIndex &index);
     void showContextMenu(QPoint position);
