@@ -208,7 +208,7 @@ void tst_MainWindow::showsANoticeUntilItIsClosed()
     const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "caf\xE9")});
     auto *bar = window.document()->findChild<QWidget *>(QStringLiteral("noticeBar"));
     QVERIFY(bar->isVisible());
-    Gui::click(bar->findChild<QAbstractButton *>());
+    Gui::click(bar->findChild<QAbstractButton *>(QStringLiteral("closeNotice")));
     QVERIFY(!bar->isVisible());
     QVERIFY(window.document()->notice().isEmpty());
 }

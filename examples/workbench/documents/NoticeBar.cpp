@@ -26,6 +26,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_answer->setFocusPolicy(Qt::NoFocus);
     connect(m_answer, &QPushButton::clicked, this, &NoticeBar::answered);
     auto *close = new QPushButton(tr("Got it"));
+    close->setObjectName(QStringLiteral("closeNotice"));
     close->setFocusPolicy(Qt::NoFocus);
     connect(close, &QPushButton::clicked, this, [this] { setText(QString()); });
 
