@@ -56,6 +56,8 @@ public:
     {
         if (!Gui::open(this))
             return false;
+        // A move to where an earlier window left the mouse would tell this one nothing.
+        Gui::moveMouse(this, rect().bottomLeft() + QPoint(5, -5));
         moveMouseAway();
         return true;
     }
