@@ -8,6 +8,7 @@
 #include <QtGui/QScreen>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidgetAction>
 
 #include <limits>
 
@@ -127,8 +128,14 @@ void tst_RibbonGallery::standsInARibbon()
              pictureOf(QIcon(u":/res/downArrowNormal.svg"_s), 17));
     QCOMPARE(window.popupButton()->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(window.itemsFrame()->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(window.itemsFrame()->layout()->alignment(), Qt::AlignLeft);
     QCOMPARE(window.menu()->parentWidget(), window.popupButton());
     QVERIFY(window.menu()->isHidden());
+    QCOMPARE(window.menu()->actions().size(), 1);
+    const auto *action = qobject_cast<QWidgetAction *>(window.menu()->actions().constFirst());
+    QVERIFY(action);
+    QCOMPARE(action->parent(), window.gallery);
+    QCOMPARE(action->defaultWidget(), window.popup());
 }
 
 void tst_RibbonGallery::hasItsSheetsColours()
@@ -462,11 +469,15 @@ void tst_RibbonGallery::placeholdersFollowTheDisplayCount()
 {
     GalleryWindow window;
     window.gallery->setActionSize({40, 50});
+    window.gallery->setIconSize({16, 16});
     window.gallery->setDispalyCount(3);
     window.add(u"One"_s, {u"a"_s});
     QVERIFY(window.open());
     QCOMPARE(window.strip(), QStringList({u"a"_s, u"-"_s, u"-"_s}));
     QCOMPARE(window.cells().at(2)->size(), QSize(40, 50));
+    // There is no icon for it.
+    QCOMPARE(window.cells().at(2)->iconSize(), QSize(24, 24));
+    QCOMPARE(window.cells().at(0)->iconSize(), QSize(16, 16));
     // What stands in the strip is not checked again until the actions differ.
     window.gallery->setDispalyCount(5);
     window.gallery->hide();
@@ -653,6 +664,11 @@ void tst_RibbonGallery::popupCoversTheStrip()
     QCOMPARE(window.menu()->pos(), cornerOf(window.gallery));
     QCOMPARE(window.popup()->size(), QSize(window.gallery->width(), height));
     QCOMPARE(window.menu()->size(), QSize(window.gallery->width() + 2, height + 2));
+    for (const QWidget *fixed :
+         {static_cast<QWidget *>(window.popup()), static_cast<QWidget *>(window.menu())}) {
+        QCOMPARE(fixed->minimumSize(), fixed->size());
+        QCOMPARE(fixed->maximumSize(), fixed->size());
+    }
     QVERIFY(!window.popup()->verticalScrollBar()->isVisible());
     QCOMPARE(window.popup()->widget()->size(), QSize(window.gallery->width(), height));
     // The popup's row is as long as the strip.

@@ -147,6 +147,7 @@ void tst_RibbonGalleryPopup::isScrolledVertically()
     QCOMPARE(popup.verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     QCOMPARE(popup.widget()->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
     QCOMPARE(popup.widget()->sizePolicy().verticalPolicy(), QSizePolicy::Ignored);
+    QCOMPARE(popup.widget()->layout()->alignment(), Qt::AlignTop);
 }
 
 void tst_RibbonGalleryPopup::standsItsPartsInAColumn()
@@ -261,6 +262,7 @@ void tst_RibbonGalleryPopup::staysOpenForClicksOnNothing()
     Gui::click(group->findChildren<QLabel *>().value(1));
     Gui::click(group, {group->width() - 50, 60});
     Gui::click(window.popup()->widget(), {50, window.popup()->widget()->height() - 2});
+    Gui::click(window.item(0, 0), {45, 40}, Qt::RightButton);
     QVERIFY(window.menu()->isVisible());
     QCOMPARE(triggered.count(), 0);
     window.closePopup();
@@ -418,6 +420,9 @@ void tst_RibbonGalleryPopup::tellsItsHeight()
     window.add(u"Two"_s, {u"x"_s});
     QVERIFY(window.open());
     QSignalSpy told(window.popup(), &RibbonGalleryPopup::signalHeightChanged);
+    // What is told has come true already.
+    connect(window.popup(), &RibbonGalleryPopup::signalHeightChanged, &window,
+            [&window](int height) { QCOMPARE(window.popup()->widget()->height(), height); });
     QVERIFY(window.openPopup());
     const int all = searchHeight + neededHeight(7) + 98;
     QVERIFY(!told.isEmpty());
