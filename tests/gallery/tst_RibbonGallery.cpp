@@ -48,6 +48,7 @@ private Q_SLOTS:
     void takesAnyDisplayCount_data();
     void takesAnyDisplayCount();
     void newSizesAreForNewItems();
+    void itemsHaveTheSizesOfASheet();
 
     void existingItemsKeepWhetherTheyCanBeCollected();
     void collectsIfEnabled();
@@ -569,6 +570,24 @@ void tst_RibbonGallery::newSizesAreForNewItems()
     window.gallery->setItemCollected(0, 0, true);
     QCOMPARE(window.collected()->item(0)->iconSize(), QSize(20, 20));
     QCOMPARE(window.collected()->item(0)->minimumSize(), QSize(60, 45));
+}
+
+void tst_RibbonGallery::itemsHaveTheSizesOfASheet()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(100));
+    window.setStyleSheet(u"Norvane--RibbonGalleryItem { min-width: 120px; max-width: 120px }"_s);
+    QVERIFY(window.open());
+    // With a border on each side.
+    for (int i = 0; i < 6; ++i)
+        QTRY_COMPARE(window.cells().at(i)->geometry(), QRect(6 + i * 122, 4, 122, 60));
+    window.popupButton()->click();
+    const int columns = (window.popup()->widget()->width() - 7) / 122;
+    for (int i = 0; i < 100; ++i) {
+        QTRY_COMPARE(window.item(0, i)->geometry(),
+                     QRect(3 + i % columns * 122, 5 + i / columns * 60, 122, 60));
+    }
+    window.menu()->close();
 }
 
 void tst_RibbonGallery::existingItemsKeepWhetherTheyCanBeCollected()
