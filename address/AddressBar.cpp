@@ -26,19 +26,20 @@ void AddressBarPrivate::init()
     auto *buttons = new QHBoxLayout;
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(1);
-    const auto addButton = [this, q, buttons](const QString &icon) {
+    const auto addButton = [this, q, buttons](const QString &icon, const QString &name) {
         auto *button = new QPushButton(q);
         button->setObjectName(QStringLiteral("addressButton"));
+        button->setAccessibleName(name);
         button->setFlat(true);
         button->setIcon(QIcon(icon));
         buttons->addWidget(button);
         QObject::connect(button, &QPushButton::clicked, q, [this, button] { follow(button); });
         return button;
     };
-    backwardButton = addButton(QStringLiteral(":/res/backward.svg"));
-    forwardButton = addButton(QStringLiteral(":/res/forward.svg"));
-    dirupButton = addButton(QStringLiteral(":/res/dirup.svg"));
-    browseButton = addButton(QStringLiteral(":/res/browse.svg"));
+    backwardButton = addButton(QStringLiteral(":/res/backward.svg"), AddressBar::tr("Back"));
+    forwardButton = addButton(QStringLiteral(":/res/forward.svg"), AddressBar::tr("Forward"));
+    dirupButton = addButton(QStringLiteral(":/res/dirup.svg"), AddressBar::tr("Up"));
+    browseButton = addButton(QStringLiteral(":/res/browse.svg"), AddressBar::tr("Browse"));
     strip = new AddressStrip(q);
     row->addLayout(buttons);
     row->addWidget(strip);

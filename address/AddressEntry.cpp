@@ -221,6 +221,7 @@ void AddressEntry::setPath(const QString &path)
 {
     Q_D(AddressEntry);
     d->path = path;
+    setAccessibleName(path.isEmpty() ? tr("Root") : path);
     const AddressPath::Style style = AddressPath::nativeStyle();
     const QStringList names = AddressPath::children(path, style);
     if (path.isEmpty()) {

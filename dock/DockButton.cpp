@@ -100,6 +100,7 @@ void DockButton::setTexts(const QStringList &texts)
 {
     Q_D(DockButton);
     d->texts = texts;
+    setAccessibleName(texts.join(QStringLiteral(", ")));
 }
 
 QStringList DockButton::texts() const

@@ -89,6 +89,8 @@ void DockTitle::setText(const QString &text)
 {
     Q_D(DockTitle);
     d->titleLabel->setText(text);
+    d->collapseButton->setAccessibleName(tr("Collapse %1").arg(text));
+    d->menuButton->setAccessibleName(tr("Menu of %1").arg(text));
 }
 
 QMenu *DockTitle::menu() const

@@ -7,6 +7,7 @@
 #include "RibbonGalleryPopup.h"
 
 #include <QtGui/QScreen>
+#include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
@@ -36,12 +37,16 @@ RibbonGalleryPrivate::RibbonGalleryPrivate()
     itemsLayout->setSpacing(0);
     itemsLayout->setAlignment(Qt::AlignLeft);
     popupButton->setObjectName(QStringLiteral("popupButton"));
+    popupButton->setAccessibleName(RibbonGallery::tr("All Items"));
     popupButton->setFocusPolicy(Qt::NoFocus);
     popupButton->setIcon(QIcon(QStringLiteral(":/res/downArrowNormal.svg")));
     popupButton->setIconSize({17, 17});
     popupButton->setSizePolicy(popupButton->sizePolicy().horizontalPolicy(),
                                QSizePolicy::Expanding);
     popupMenu->setObjectName(QStringLiteral("galleryPopupMenu"));
+    // Of a menu Qt tells assistive tools the actions, and nothing of the widgets in them.
+    QAccessible::registerAccessibleInterface(
+        new QAccessibleWidget(popupMenu, QAccessible::PopupMenu));
 }
 
 RibbonGalleryPrivate::~RibbonGalleryPrivate()

@@ -22,8 +22,10 @@ RibbonGalleryGroupPrivate::RibbonGalleryGroupPrivate()
 {
     groupFrame->setObjectName(QStringLiteral("galleryGroupFrame"));
     itemsLayout->setContentsMargins(3, 5, 3, 5);
+    toTopButton->setAccessibleName(RibbonGalleryGroup::tr("Move Up"));
     toTopButton->setIcon(QIcon(QStringLiteral(":/res/toTop.svg")));
     toTopButton->setIconSize({16, 16});
+    toBottomButton->setAccessibleName(RibbonGalleryGroup::tr("Move Down"));
     toBottomButton->setIcon(QIcon(QStringLiteral(":/res/toBottom.svg")));
     toBottomButton->setIconSize({16, 16});
 }
@@ -74,6 +76,7 @@ RibbonGalleryGroup::RibbonGalleryGroup(RibbonGalleryGroupPrivate &dd, const QIco
     connect(d->toBottomButton, &QPushButton::clicked, this,
             [this] { Q_EMIT signalPositionChange(Bottom); });
     d->titleLabel->setText(title);
+    setAccessibleName(title);
     if (icon.isNull())
         d->iconLabel->hide();
     else

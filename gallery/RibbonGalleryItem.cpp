@@ -70,6 +70,7 @@ RibbonGalleryItem::RibbonGalleryItem(RibbonGalleryItemPrivate &dd, QAction *acti
     setDefaultAction(action);
     d->collectButton = new LazyToolButton(this);
     d->collectButton->setObjectName(QStringLiteral("collectedButton"));
+    d->collectButton->setAccessibleName(tr("Collect"));
     d->collectButton->setCheckable(true);
     d->collectButton->setIconSize({16, 16});
     connect(

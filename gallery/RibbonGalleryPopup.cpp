@@ -35,6 +35,8 @@ RibbonGalleryPopupPrivate::RibbonGalleryPopupPrivate()
     groupsLayout->setSpacing(0);
     groupsLayout->setAlignment(Qt::AlignTop);
     searchEdit->addAction(QIcon(QStringLiteral(":/res/search.svg")), QLineEdit::TrailingPosition);
+    searchEdit->setAccessibleName(RibbonGalleryPopup::tr("Search"));
+    closeButton->setAccessibleName(RibbonGalleryPopup::tr("Close"));
     closeButton->setIcon(QIcon(QStringLiteral(":/res/close.svg")));
     closeButton->setIconSize({12, 12});
     noMatchLabel->setAlignment(Qt::AlignHCenter | Qt::AlignTop | Qt::AlignVCenter);

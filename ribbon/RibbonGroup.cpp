@@ -42,6 +42,7 @@ RibbonGroup::RibbonGroup(const QString &title, QWidget *parent)
 {
     Q_D(RibbonGroup);
     d->titleLabel->setText(title);
+    setAccessibleName(title);
 }
 
 RibbonGroup::RibbonGroup(RibbonGroupPrivate &dd, QWidget *parent)
