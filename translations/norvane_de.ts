@@ -11,6 +11,22 @@
 <context>
     <name>Norvane::AddressBar</name>
     <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Durchsuchen</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Ausschneiden</translation>
     </message>
@@ -33,6 +49,13 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::AddressEntry</name>
+    <message>
+        <source>Root</source>
+        <translation>Wurzel</translation>
     </message>
 </context>
 <context>
@@ -190,6 +213,39 @@
         <source>minimize to bar</source>
         <translation>In die Leiste minimieren</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>%1 einklappen</translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation>Menü von %1</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGallery</name>
+    <message>
+        <source>All Items</source>
+        <translation>Alle Elemente</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryGroup</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryItem</name>
+    <message>
+        <source>Collect</source>
+        <translation>Zu Favoriten hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::RibbonGalleryPopup</name>
@@ -200,6 +256,14 @@
     <message>
         <source>No items match your search criteria.</source>
         <translation>Keine Einträge entsprechen Ihrer Suche.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,22 @@
 <context>
     <name>Norvane::AddressBar</name>
     <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Browse</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Cut</translation>
     </message>
@@ -33,6 +49,13 @@
     <message>
         <source>Delete</source>
         <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::AddressEntry</name>
+    <message>
+        <source>Root</source>
+        <translation>Root</translation>
     </message>
 </context>
 <context>
@@ -190,6 +213,39 @@
         <source>minimize to bar</source>
         <translation>minimize to bar</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Collapse %1</translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation>Menu of %1</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGallery</name>
+    <message>
+        <source>All Items</source>
+        <translation>All Items</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryGroup</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Move Down</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryItem</name>
+    <message>
+        <source>Collect</source>
+        <translation>Collect</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::RibbonGalleryPopup</name>
@@ -200,6 +256,14 @@
     <message>
         <source>No items match your search criteria.</source>
         <translation>No items match your search criteria.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
     </message>
 </context>
 </TS>

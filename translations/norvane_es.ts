@@ -11,6 +11,22 @@
 <context>
     <name>Norvane::AddressBar</name>
     <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Examinar</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Cortar</translation>
     </message>
@@ -33,6 +49,13 @@
     <message>
         <source>Delete</source>
         <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::AddressEntry</name>
+    <message>
+        <source>Root</source>
+        <translation>Raíz</translation>
     </message>
 </context>
 <context>
@@ -190,6 +213,39 @@
         <source>minimize to bar</source>
         <translation>Minimizar en la barra</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Contraer %1</translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation>Menú de %1</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGallery</name>
+    <message>
+        <source>All Items</source>
+        <translation>Todos los elementos</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryGroup</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryItem</name>
+    <message>
+        <source>Collect</source>
+        <translation>Agregar a favoritos</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::RibbonGalleryPopup</name>
@@ -200,6 +256,14 @@
     <message>
         <source>No items match your search criteria.</source>
         <translation>Ningún elemento coincide con su búsqueda.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,22 @@
 <context>
     <name>Norvane::AddressBar</name>
     <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Parcourir</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Couper</translation>
     </message>
@@ -33,6 +49,13 @@
     <message>
         <source>Delete</source>
         <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::AddressEntry</name>
+    <message>
+        <source>Root</source>
+        <translation>Racine</translation>
     </message>
 </context>
 <context>
@@ -190,6 +213,39 @@
         <source>minimize to bar</source>
         <translation>Réduire dans la barre</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Réduire %1</translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation>Menu de %1</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGallery</name>
+    <message>
+        <source>All Items</source>
+        <translation>Tous les éléments</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryGroup</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryItem</name>
+    <message>
+        <source>Collect</source>
+        <translation>Ajouter aux favoris</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::RibbonGalleryPopup</name>
@@ -200,6 +256,14 @@
     <message>
         <source>No items match your search criteria.</source>
         <translation>Aucun élément ne correspond à votre recherche.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 </TS>

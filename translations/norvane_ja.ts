@@ -11,6 +11,22 @@
 <context>
     <name>Norvane::AddressBar</name>
     <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>参照</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>切り取り</translation>
     </message>
@@ -33,6 +49,13 @@
     <message>
         <source>Delete</source>
         <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::AddressEntry</name>
+    <message>
+        <source>Root</source>
+        <translation>ルート</translation>
     </message>
 </context>
 <context>
@@ -190,6 +213,39 @@
         <source>minimize to bar</source>
         <translation>バーに最小化</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>%1 を折りたたむ</translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation>%1 のメニュー</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGallery</name>
+    <message>
+        <source>All Items</source>
+        <translation>すべての項目</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryGroup</name>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
+    </message>
+</context>
+<context>
+    <name>Norvane::RibbonGalleryItem</name>
+    <message>
+        <source>Collect</source>
+        <translation>お気に入り</translation>
+    </message>
 </context>
 <context>
     <name>Norvane::RibbonGalleryPopup</name>
@@ -200,6 +256,14 @@
     <message>
         <source>No items match your search criteria.</source>
         <translation>検索条件に一致する項目はありません。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 </TS>

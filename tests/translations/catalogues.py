@@ -13,7 +13,7 @@ from pathlib import Path
 
 LUPDATE = sys.argv[1]
 TREE = Path(sys.argv[2])
-SOURCES = ["address", "dock", "frame", "gallery", "include", "ribbon", "style"]
+SOURCES = ["accessibility", "address", "dock", "frame", "gallery", "include", "ribbon", "style"]
 
 # All that the English file is there for.
 MISSPELT = ["Close All(Except Current)", "Infomation", "The director entered ", "The Target folder ",
