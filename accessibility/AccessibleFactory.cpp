@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "AccessibleButton.h"
+#include "AccessibleStack.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QStackedWidget>
 
 namespace Norvane {
 
@@ -20,6 +22,7 @@ QAccessibleInterface *createAccessible(const QString &className, QObject *object
     static const QHash<QString, QAccessible::Role> roles{
         {u"Norvane::RibbonTabBar"_s, QAccessible::PageTabList},
         {u"Norvane::RibbonTab"_s, QAccessible::PageTab},
+        {u"Norvane::RibbonStackedWidget"_s, QAccessible::LayeredPane},
         {u"Norvane::RibbonPage"_s, QAccessible::PropertyPage},
         {u"Norvane::RibbonGroup"_s, QAccessible::Grouping},
         {u"Norvane::RibbonButton"_s, QAccessible::Button},
@@ -36,6 +39,8 @@ QAccessibleInterface *createAccessible(const QString &className, QObject *object
         return nullptr;
     if (auto *button = qobject_cast<QAbstractButton *>(widget))
         return new AccessibleButton(button, *role);
+    if (auto *stack = qobject_cast<QStackedWidget *>(widget))
+        return new AccessibleStack(stack);
     return new QAccessibleWidget(widget, *role);
 }
 

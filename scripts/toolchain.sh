@@ -29,6 +29,8 @@ openbox command openbox
 xdotool command xdotool
 imagemagick command import
 x11-utils command xprop
+dbus-daemon command dbus-run-session
+at-spi2-core service org.a11y.Bus
 fonts-dejavu-core font en
 fonts-wqy-microhei font zh-cn
 END
@@ -68,6 +70,7 @@ is_there() {
     qt) [ -e "$qt_libs/cmake/$2/$2Config.cmake" ] ;;
     plugin) [ -e "$qt_plugins/$2" ] ;;
     program) [ -x "$qt_programs/$2" ] ;;
+    service) [ -e "/usr/share/dbus-1/services/$2.service" ] ;;
     font) fc-list --quiet ":lang=$2" 2>/dev/null ;;
     esac
 }

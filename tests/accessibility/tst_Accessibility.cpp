@@ -34,6 +34,7 @@ class tst_Accessibility : public TestCase
 private Q_SLOTS:
     void tellsTabsOfTheRibbon();
     void selectsATab();
+    void tellsTheCurrentPageOnly();
     void namesGroupsByTheirTitles();
     void tellsButtonsOfTheRibbon_data();
     void tellsButtonsOfTheRibbon();
@@ -141,6 +142,24 @@ void tst_Accessibility::selectsATab()
     tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(changes.count(), 1);
     QVERIFY(tab->state().selected);
+}
+
+void tst_Accessibility::tellsTheCurrentPageOnly()
+{
+    const Frame frame;
+    RibbonBar *ribbon = frame.agent.ribbonBar();
+    ribbon->showPage(1);
+    const auto page = [ribbon] {
+        const auto pages = find(accessible(ribbon), QAccessible::PropertyPage);
+        return pages.size() == 1 ? pages.first()->object() : nullptr;
+    };
+    QCOMPARE(page(), ribbon->page(0));
+    ribbon->setCurrentIndex(1);
+    QCOMPARE(page(), ribbon->page(1));
+    QAccessibleInterface *stack = accessible(ribbon->page(1)->parentWidget());
+    QCOMPARE(stack->indexOfChild(accessible(ribbon->page(1))), 0);
+    QCOMPARE(stack->indexOfChild(accessible(ribbon->page(0))), -1);
+    QVERIFY(!stack->child(1));
 }
 
 void tst_Accessibility::namesGroupsByTheirTitles()

@@ -51,6 +51,7 @@ PictureDocument::PictureDocument(QWidget *parent)
     , m_view(new PictureView)
     , m_history(new QUndoStack(this))
 {
+    m_view->setAccessibleName(tr("Picture"));
     setView(m_view);
     connect(m_view, &PictureView::selectionChanged, this, &Document::changed);
     connect(m_view, &PictureView::zoomChanged, this, &Document::changed);

@@ -12,6 +12,7 @@ namespace Workbench {
 FindField::FindField(QWidget *parent)
     : QLineEdit(parent)
 {
+    setAccessibleName(tr("Find"));
     setPlaceholderText(tr("Find"));
     setClearButtonEnabled(true);
     setFixedSize(170, 22);

@@ -38,11 +38,13 @@ void TextPage::addFontGroup()
     m_family->setEditable(false);
     m_family->setFontFilters(QFontComboBox::ScalableFonts);
     m_family->setFixedSize(170, 22);
+    m_family->setAccessibleName(tr("Font"));
     m_family->setToolTip(tr("The font of all texts"));
     m_size = new QSpinBox;
     m_size->setRange(6, 72);
     m_size->setSuffix(tr(" pt"));
     m_size->setFixedSize(76, 22);
+    m_size->setAccessibleName(tr("Font size"));
     m_size->setToolTip(tr("The font size of all texts"));
     showFont();
     connect(m_options, &TextOptions::changed, this, &TextPage::showFont);

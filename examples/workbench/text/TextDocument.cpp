@@ -20,6 +20,7 @@ TextDocument::TextDocument(TextOptions *options, QWidget *parent)
     : Document(parent)
     , m_editor(new TextEditor(options))
 {
+    m_editor->setAccessibleName(tr("Text"));
     setView(m_editor);
     connect(m_editor, &TextEditor::zoomWanted, this,
             [this](int steps) { steps > 0 ? zoomIn() : zoomOut(); });

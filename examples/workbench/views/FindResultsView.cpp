@@ -26,6 +26,7 @@ FindResultsView::FindResultsView(DocumentTabs *tabs, QWidget *parent)
     , m_results(new QTreeWidget)
 {
     m_wanted->setObjectName(QStringLiteral("findAllField"));
+    m_wanted->setAccessibleName(tr("Find in all open texts"));
     m_wanted->setPlaceholderText(tr("Find in all open texts"));
     m_wanted->setClearButtonEnabled(true);
     m_wanted->setMaximumWidth(320);
