@@ -25,7 +25,7 @@ BASICS = ["awk", "basename", "bash", "cat", "chmod", "cut", "dirname", "env", "f
           "sha256sum", "sleep", "sort", "sync", "tar", "touch", "true", "uname"]
 
 TOOLS = ["c++", "git", "ninja", "pkg-config", "python3", "Xvfb", "xauth", "openbox", "xdotool",
-         "import", "xprop", "fc-list", "valgrind", "ctest"]
+         "import", "xprop", "dbus-run-session", "fc-list", "valgrind", "ctest"]
 
 QMAKE = """case "$2" in
 QT_VERSION) echo {version} ;;
