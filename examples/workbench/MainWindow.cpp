@@ -57,7 +57,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_tabs(new DocumentTabs(m_agent->dockContainer()->contentWidget()))
     , m_files(new FileCommands(m_tabs, m_recent, m_options->text(), this))
     , m_ribbon(new WorkbenchRibbon(m_agent->ribbonBar(), m_files, m_recent, m_options->text()))
-    , m_panels(new Panels(m_agent->dockContainer(), m_tabs, m_files))
+    , m_panels(new Panels(m_agent->dockContainer(), m_agent->addressBar(), m_tabs, m_files))
     , m_message(new QLabel)
     , m_summary(new QLabel)
 {

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void replacesADeletedTree();
     void isDeletedInAnyOrder_data();
     void isDeletedInAnyOrder();
+    void isDeletedWithTheFocusAndItsWindow();
     void isDeletedWhileItsMenuIsOpen();
 };
 
@@ -1178,6 +1179,20 @@ void tst_AddressBar::isDeletedInAnyOrder()
     window.reset();
     if (bar)
         delete bar;
+}
+
+void tst_AddressBar::isDeletedWithTheFocusAndItsWindow()
+{
+    // A window that closes takes the focus from its editor, which then navigates.
+    auto bar = std::make_unique<AddressBar>();
+    bar->setPath(QStringLiteral("/usr"));
+    QVERIFY(Gui::open(bar.get()));
+    QVERIFY(QTest::qWaitForWindowActive(bar.get()));
+    const AddressStrip *strip = stripOf(bar.get());
+    Gui::click(strip, QPoint(strip->width() - 3, 12));
+    QVERIFY(isEditing(strip));
+    bar.reset();
+    QVERIFY(!QApplication::focusWidget());
 }
 
 void tst_AddressBar::isDeletedWhileItsMenuIsOpen()

@@ -3,7 +3,6 @@
 
 #include "WorkbenchWindow.h"
 
-#include "views/FilesView.h"
 #include "views/FindResultsView.h"
 #include "views/LogView.h"
 #include "views/OutlineView.h"
@@ -34,7 +33,6 @@ private Q_SLOTS:
     void listsTheHeadingsOfTheText();
     void goesToAHeading();
     void showsTheProperties();
-    void opensAFileOfTheTree();
     void findsInAllTexts();
     void logsWhatWasDone();
     void remembersTheLayout();
@@ -194,28 +192,6 @@ void tst_Panels::showsTheProperties()
     QCOMPARE(value(u"State"_s), u"Saved"_s);
     QTest::keyClicks(window.editor(), u"x"_s);
     QCOMPARE(value(u"State"_s), u"Not saved"_s);
-}
-
-void tst_Panels::opensAFileOfTheTree()
-{
-    const Files files;
-    const QString other = files.write(u"other.txt"_s, "o");
-    const WorkbenchWindow window({files.write(u"a.txt"_s, "a")});
-    auto *tree = window.findChild<FilesView *>();
-    QModelIndex index;
-    QTRY_VERIFY((index = tree->model()->index(0, 0, tree->rootIndex()),
-                 tree->model()->rowCount(tree->rootIndex()) == 2));
-    for (int row = 0; row < 2; ++row) {
-        const QModelIndex entry = tree->model()->index(row, 0, tree->rootIndex());
-        if (entry.data().toString() == u"other.txt")
-            index = entry;
-    }
-    tree->scrollTo(index);
-    const QPoint position = tree->visualRect(index).center();
-    Gui::click(tree->viewport(), position);
-    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, position);
-    QTRY_COMPARE(window.document()->title(), u"other.txt"_s);
-    QCOMPARE(window.tabs()->find(other), window.document());
 }
 
 void tst_Panels::findsInAllTexts()

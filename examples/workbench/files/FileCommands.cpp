@@ -17,6 +17,12 @@
 
 namespace Workbench {
 
+static QStringList textPatterns()
+{
+    return QStringLiteral("*.txt *.md *.csv *.log *.ini *.json *.xml *.html *.cpp *.h *.py")
+        .split(u' ');
+}
+
 FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, TextOptions *textOptions,
                            QWidget *window)
     : QObject(window)
@@ -29,13 +35,18 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, TextOptions 
             [this](const QString &path) { openPaths({path}); });
 }
 
+QStringList FileCommands::suffixes()
+{
+    QStringList suffixes = textPatterns() + PictureFormats::readPatterns();
+    suffixes.replaceInStrings(QStringLiteral("*."), QString());
+    return suffixes;
+}
+
 void FileCommands::open()
 {
     const Document *current = m_tabs->currentDocument();
-    const QStringList filters{
-        tr("All files (*)"),
-        tr("Texts (*.txt *.md *.csv *.log *.ini *.json *.xml *.html *.cpp *.h *.py)"),
-        tr("Pictures (%1)").arg(PictureFormats::readPatterns().join(u' '))};
+    const QStringList filters{tr("All files (*)"), tr("Texts (%1)").arg(textPatterns().join(u' ')),
+                              tr("Pictures (%1)").arg(PictureFormats::readPatterns().join(u' '))};
     openPaths(QFileDialog::getOpenFileNames(m_window, tr("Open"),
                                             current ? QFileInfo(current->path()).path() : QString(),
                                             filters.join(QStringLiteral(";;"))));
@@ -63,6 +74,21 @@ void FileCommands::openPaths(const QStringList &paths)
         warn(tr("Open"), tr("%1 files could not be opened.").arg(failed.size()),
              reasons.join(QStringLiteral("\n\n")));
     }
+}
+
+QString FileCommands::createText(const QString &folder)
+{
+    const QString name = tr("New Text Document");
+    QFile file(QDir(folder).filePath(tr("%1.txt").arg(name)));
+    for (int number = 2; !file.open(QIODevice::NewOnly); ++number) {
+        if (!QFileInfo::exists(file.fileName())) {
+            warn(tr("New"), tr("A text could not be made in “%1”.").arg(QDir(folder).dirName()),
+                 file.errorString());
+            return QString();
+        }
+        file.setFileName(QDir(folder).filePath(tr("%1 (%2).txt").arg(name).arg(number)));
+    }
+    return file.fileName();
 }
 
 bool FileCommands::save(Document *document)

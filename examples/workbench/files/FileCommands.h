@@ -32,6 +32,9 @@ public:
     FileCommands(DocumentTabs *tabs, RecentFiles *recent, TextOptions *textOptions,
                  QWidget *window);
 
+    //! Of the files that it knows to be texts and pictures.
+    static QStringList suffixes();
+
     //! Asks for files to open.
     void open();
     /*!
@@ -39,6 +42,9 @@ public:
         says which of the files could not be opened and why.
     */
     void openPaths(const QStringList &paths);
+
+    //! Makes an empty text with a new name in \a folder. Returns its path, or nothing if it failed.
+    QString createText(const QString &folder);
 
     //! These return whether the document's content is in its file.
     bool save(Document *document);

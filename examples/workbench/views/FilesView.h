@@ -3,27 +3,42 @@
 
 #pragma once
 
-#include <QtWidgets/QTreeView>
+#include <QtCore/QObject>
 
 class QFileSystemModel;
+class QTreeView;
+
+namespace Norvane {
+class AddressBar;
+}
 
 namespace Workbench {
 
-//! The files of a folder and below. A double click or Return asks for a file to be opened.
-class FilesView : public QTreeView
+class FileCommands;
+
+/*!
+    The address bar's tree as a view: texts and pictures are opened here, other files by the
+    system's programs, and new texts are made where the user wants them.
+*/
+class FilesView : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit FilesView(QWidget *parent = nullptr);
+    FilesView(Norvane::AddressBar *bar, FileCommands *files);
 
+    QTreeView *tree() const;
     //! Shows where the file at \a path lies.
     void showFile(const QString &path);
 
-Q_SIGNALS:
-    void opened(const QString &path);
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void createText();
+
+    Norvane::AddressBar *m_bar;
+    FileCommands *m_files;
+    QTreeView *m_tree;
     QFileSystemModel *m_model;
 };
 

@@ -23,17 +23,18 @@ using namespace Qt::StringLiterals;
 using Norvane::DockContainer;
 using Norvane::DockPanelWidget;
 
-Panels::Panels(DockContainer *container, DocumentTabs *tabs, FileCommands *files)
+Panels::Panels(DockContainer *container, Norvane::AddressBar *bar, DocumentTabs *tabs,
+               FileCommands *files)
     : QObject(container)
     , m_container(container)
-    , m_files(new FilesView)
+    , m_files(new FilesView(bar, files))
     , m_outline(new OutlineView)
     , m_properties(new PropertiesView)
     , m_results(new FindResultsView(tabs))
     , m_log(new LogView)
 {
     DockPanelWidget *left = container->panelWidget(DockContainer::LeftDockArea);
-    left->addView(m_files, icon("files"_L1), tr("Files"));
+    left->addView(m_files->tree(), icon("files"_L1), tr("Files"));
     left->tabifyView(0, m_outline, icon("outline"_L1), tr("Outline"));
     DockPanelWidget *right = container->panelWidget(DockContainer::RightDockArea);
     right->addView(m_properties, icon("properties"_L1), tr("Properties"));
@@ -42,8 +43,6 @@ Panels::Panels(DockContainer *container, DocumentTabs *tabs, FileCommands *files
     bottom->addView(m_log, icon("log"_L1), tr("Log"));
     bottom->menu(m_log)->addAction(tr("Clear"), m_log, &QPlainTextEdit::clear);
 
-    connect(m_files, &FilesView::opened, files,
-            [files](const QString &path) { files->openPaths({path}); });
     connect(files, &FileCommands::message, this, &Panels::log);
 }
 

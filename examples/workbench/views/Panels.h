@@ -6,8 +6,9 @@
 #include <QtCore/QObject>
 
 namespace Norvane {
+class AddressBar;
 class DockContainer;
-}
+} // namespace Norvane
 
 namespace Workbench {
 
@@ -26,7 +27,8 @@ class Panels : public QObject
     Q_OBJECT
 
 public:
-    Panels(Norvane::DockContainer *container, DocumentTabs *tabs, FileCommands *files);
+    Panels(Norvane::DockContainer *container, Norvane::AddressBar *bar, DocumentTabs *tabs,
+           FileCommands *files);
 
     //! The document in front, or null.
     void setDocument(Document *document);
