@@ -4,7 +4,9 @@
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Norvane)
-set(norvane_translations_dir ${CMAKE_INSTALL_DATADIR}/norvane/translations)
+# The next interface's translations may lie beside these.
+set(norvane_translations_dir
+    ${CMAKE_INSTALL_DATADIR}/norvane${PROJECT_VERSION_MAJOR}/translations)
 
 install(TARGETS Norvane EXPORT NorvaneTargets)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Norvane ${PROJECT_BINARY_DIR}/include/Norvane
@@ -33,6 +35,8 @@ file(RELATIVE_PATH pc_prefix ${pc_dir} ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
-file(RELATIVE_PATH pc_datadir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_DATADIR})
+cmake_path(ABSOLUTE_PATH norvane_translations_dir BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}
+    OUTPUT_VARIABLE pc_translationsdir)
+file(RELATIVE_PATH pc_translationsdir ${CMAKE_INSTALL_PREFIX} ${pc_translationsdir})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/norvane.pc.in ${PROJECT_BINARY_DIR}/norvane.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/norvane.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

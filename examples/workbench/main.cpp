@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 static QString sampleFolder()
 {
-    return QStringLiteral(NORVANE_WORKBENCH_SAMPLES);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/'
+                           + QStringLiteral(NORVANE_WORKBENCH_SAMPLES));
 }
 
 static int runTour(const QString &pictureFolder, const QStringList &paths)
