@@ -11,7 +11,7 @@ keyring=/usr/share/keyrings/debian-archive-keyring.gpg
 # Two roots are enough: one for what everybody runs, one that also has the heavy tools.
 packages_of() {
     case " $* " in
-    *" lint "* | *" bench "*) needs qt build desktop lint bench ;;
+    *" lint "* | *" bench "* | *" package "*) needs qt build desktop lint bench package ;;
     *) needs qt build desktop ;;
     esac | awk '{ print $1 } END { print "qt6-wayland" }'
 }
@@ -29,9 +29,9 @@ debian_mirror() {
         'Created-By: Packages' 'Origin: Debian' 'Label: Debian' 'Component: main' | awk 'NR == 1'
 }
 
-make_root() {
-    local root=$1 mirror packages tools=()
-    shift
+# What makes a Debian, and the `mirror` it is made from.
+ready_to_bootstrap() {
+    local tools=()
     command -v bwrap >/dev/null || tools+=(bubblewrap)
     command -v mmdebstrap >/dev/null || tools+=(mmdebstrap)
     [ -e "$keyring" ] || tools+=(debian-archive-keyring)
@@ -39,10 +39,16 @@ make_root() {
     [ ${#tools[@]} -eq 0 ] || apt_install "${tools[@]}"
     # Without ids of its own a user cannot own the files of a Debian.
     if [ "$(id -u)" != 0 ] && ! grep -qs "^\($(id -un)\|$(id -u)\):" /etc/subuid; then
-        require_root "Making a private Debian 13, because Qt here is older than 6.8," \
+        require_root "Making a private Debian 13" \
             "usermod --add-subuids 100000-165535 --add-subgids 100000-165535 $(id -un)"
     fi
     mirror=$(debian_mirror)
+}
+
+make_root() {
+    local root=$1 mirror packages
+    shift
+    ready_to_bootstrap
     [ -n "$mirror" ] || die "apt-get knows no Debian mirror to make the private root from;" \
         "please install Qt 6.8 or later (Debian's names):" "$(missing "$@")"
     packages=$(packages_of "$@" | paste -s -d ,)
@@ -77,19 +83,24 @@ make_root() {
     exec {lock}>&-
 }
 
+# bootstrap FOLDER MIRROR PACKAGES SUITE KEYRING [OPTION...]; nothing is kept with /dev/null.
 bootstrap() {
     local making=$1 mirror=$2 packages=$3 suite=$4 keyring=$5
+    shift 5
     local command=(mmdebstrap --mode=unshare --variant=apt --quiet
         --aptopt='APT::Install-Recommends "false"' --dpkgopt=force-unsafe-io
-        --include="$packages" --keyring="$keyring")
+        --include="$packages" --keyring="$keyring" "$@")
     local source="deb $mirror $suite main"
     set -o pipefail
-    if [ "$(id -u)" = 0 ]; then
-        "${command[@]}" "$suite" "$making" "$source"
+    if [ "$making" = /dev/null ]; then
+        "${command[@]}" "$suite" /dev/null "$source"
+    elif [ "$(id -u)" = 0 ]; then
+        "${command[@]}" "$suite" "$making" "$source" && chmod 755 "$making"
     else
         # A user owns every file of the root; the user namespace's other ids would end with it.
-        "${command[@]}" "$suite" - "$source" | tar -x -C "$making" --exclude './dev/*'
-    fi && chmod 755 "$making"
+        "${command[@]}" "$suite" - "$source" | tar -x -C "$making" --exclude './dev/*' &&
+            chmod 755 "$making"
+    fi
 }
 
 # The lock is free once the last process that inherited it has ended: then nobody writes any more.

@@ -42,6 +42,11 @@ END
         bench) cat <<'END' ;;
 valgrind command valgrind
 END
+        package) cat <<'END' ;;
+debhelper command dh
+dpkg-dev command dpkg-buildpackage
+lintian command lintian
+END
         esac
     done
 }

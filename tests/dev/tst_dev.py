@@ -27,6 +27,11 @@ BASICS = ["awk", "basename", "bash", "cat", "chmod", "cut", "dirname", "env", "f
 TOOLS = ["c++", "git", "ninja", "pkg-config", "python3", "Xvfb", "xauth", "openbox", "xdotool",
          "import", "xprop", "dbus-run-session", "fc-list", "valgrind", "ctest"]
 
+PACKAGING = ["dh", "dpkg-buildpackage", "lintian"]
+
+# Leaves a package, and the sources it was made of beside it, as the real one does.
+BUILD_PACKAGE = """cat debian/control >/dev/null; touch ../libnorvane0_1_amd64.deb ../norvane_1_amd64.changes"""
+
 QMAKE = """case "$2" in
 QT_VERSION) echo {version} ;;
 QT_INSTALL_PREFIX) echo {prefix} ;;
@@ -95,13 +100,13 @@ class Machine:
         self.fake("mmdebstrap", 'making=${@: -2:1}\n' + script)
         self.fake("bwrap")
 
-    def start(self, *arguments):
-        return subprocess.Popen([shutil.which("bash"), str(CHECKOUT / "dev"), *arguments],
+    def start(self, *arguments, checkout=CHECKOUT):
+        return subprocess.Popen([shutil.which("bash"), str(checkout / "dev"), *arguments],
                                 env=self.environment, stdout=subprocess.PIPE,
                                 stderr=subprocess.STDOUT, text=True)
 
-    def dev(self, *arguments):
-        process = self.start(*arguments)
+    def dev(self, *arguments, **options):
+        process = self.start(*arguments, **options)
         output, _ = process.communicate(timeout=60)
         return process.returncode, output
 
@@ -250,6 +255,58 @@ class DevTest(unittest.TestCase):
         self.assertEqual(status, 0, output)
         [root] = [name for name in self.machine.cache() if name != "lock"]
         self.assertFalse((self.machine.home / ".cache/norvane" / root / "usr/half").exists())
+
+    def checkout(self):
+        """A copy of the script in a repository of its own, for commands that leave files there."""
+        folder = self.machine.home / "checkout"
+        shutil.copytree(CHECKOUT / "scripts", folder / "scripts")
+        shutil.copytree(CHECKOUT / "debian", folder / "debian")
+        shutil.copy(CHECKOUT / "dev", folder)
+        (folder / "examples").mkdir()
+        return folder
+
+    def can_package(self):
+        self.machine.has_tools()
+        self.machine.has_qt("6.8.2")
+        self.machine.is_debian("6.8.2")
+        for name in PACKAGING:
+            self.machine.fake(name)
+        self.machine.fake("git", "printf 'debian/control\\0'")
+        self.machine.fake("dpkg-buildpackage", BUILD_PACKAGE)
+        for name in ("bwrap", "mmdebstrap"):
+            self.machine.fake(name)
+        return self.checkout()
+
+    def test_makes_packages_of_a_copy_and_tries_them(self):
+        folder = self.can_package()
+        status, output = self.machine.dev("package", checkout=folder)
+        self.assertEqual(status, 0, output)
+        self.assertTrue((folder / "build/package/libnorvane0_1_amd64.deb").exists())
+        self.assertTrue((folder / "build/package/norvane/debian/control").exists())
+        [lintian] = self.machine.calls("lintian")
+        self.assertIn("--fail-on error", lintian)
+        [trial] = self.machine.calls("mmdebstrap")
+        self.assertIn("trixie /dev/null deb http://mirror.example/debian", trial)
+        self.assertNotIn("qt6", trial)
+
+    def test_tells_which_step_of_the_packages_failed(self):
+        folder = self.can_package()
+        self.assertEqual(self.machine.dev("package", "try", checkout=folder)[0], 1)
+        self.machine.fake("mmdebstrap", "exit 25")
+        status, output = self.machine.dev("package", checkout=folder)
+        self.assertEqual(status, 1)
+        self.assertIn("do not do what they should", output)
+        self.machine.fake("lintian", "exit 2")
+        self.assertNotEqual(self.machine.dev("package", checkout=folder)[0], 0)
+        self.assertEqual(len(self.machine.calls("mmdebstrap")), 1)
+
+    def test_installs_the_package_tools_for_packages_only(self):
+        self.machine.is_debian("6.8.2")
+        self.machine.dev("test")
+        self.assertNotIn("debhelper", "".join(self.machine.calls("apt-get")))
+        self.machine.dev("package", "build", checkout=self.checkout())
+        install = [call for call in self.machine.calls("apt-get") if " install " in call][-1]
+        self.assertEqual(install.split(" install ")[1], "debhelper dpkg-dev lintian")
 
     def test_asks_to_delete_a_root_that_lacks_something(self):
         self.machine.environment["NORVANE_ROOT"] = "/some/root"

@@ -8,14 +8,14 @@ cmake_minimum_required(VERSION 3.25)
 
 file(GLOB files ${TREE}/* ${TREE}/.clang-*)
 foreach(room IN ITEMS
-        .ci address benchmarks cmake dock docs examples frame gallery include res ribbon scripts
+        .ci address benchmarks cmake debian dock docs examples frame gallery include res ribbon scripts
         tests translations)
     file(GLOB_RECURSE found ${TREE}/${room}/*)
     list(APPEND files ${found})
 endforeach()
 
 # Samples and test data are no sources, and have whatever line ends they are about.
-set(sources "(/CMakeLists\\.txt|/dev|/run|\\.(cmake|cpp|h|in|py|sh))$")
+set(sources "(/CMakeLists\\.txt|/dev|/run|/rules|/on-display|/try-packages|\\.(cmake|cpp|h|in|py|sh))$")
 list(FILTER files INCLUDE REGEX "${sources}|\\.(css|json|md|qrc|svg)$|/\\.clang-[a-z]+$")
 foreach(file IN LISTS files)
     # Read as bytes, because a file that is read as text loses its carriage returns.
