@@ -36,8 +36,12 @@ void AddressBarPrivate::init()
         QObject::connect(button, &QPushButton::clicked, q, [this, button] { follow(button); });
         return button;
     };
-    backwardButton = addButton(QStringLiteral(":/res/backward.svg"), AddressBar::tr("Back"));
-    forwardButton = addButton(QStringLiteral(":/res/forward.svg"), AddressBar::tr("Forward"));
+    // Back is where the text comes from.
+    QStringList arrows{QStringLiteral(":/res/backward.svg"), QStringLiteral(":/res/forward.svg")};
+    if (q->isRightToLeft())
+        arrows.swapItemsAt(0, 1);
+    backwardButton = addButton(arrows.first(), AddressBar::tr("Back"));
+    forwardButton = addButton(arrows.last(), AddressBar::tr("Forward"));
     dirupButton = addButton(QStringLiteral(":/res/dirup.svg"), AddressBar::tr("Up"));
     browseButton = addButton(QStringLiteral(":/res/browse.svg"), AddressBar::tr("Browse"));
     strip = new AddressStrip(q);

@@ -76,6 +76,12 @@ int AddressEntryPrivate::textPartWidth() const
     return textLeft + textArrowGap + textWidth;
 }
 
+QRect AddressEntryPrivate::visual(const QRect &rect) const
+{
+    Q_Q(const AddressEntry);
+    return QStyle::visualRect(q->layoutDirection(), q->rect(), rect);
+}
+
 QSize AddressEntryPrivate::measure()
 {
     Q_Q(AddressEntry);
@@ -133,13 +139,14 @@ void AddressEntryPrivate::placeMenu() const
 {
     Q_Q(const AddressEntry);
     QMenu *menu = q->menu();
-    QPoint position = q->mapToGlobal(QPoint(textPartWidth(), q->height()));
+    const QRect below = visual(QRect(textPartWidth(), q->height(), menu->width(), 0));
+    QPoint position = q->mapToGlobal(below.topLeft());
     const QRect screen = q->screen()->availableGeometry();
     const int room = screen.bottom() + 1 - position.y();
     const bool scrolls = menu->height() < menu->sizeHint().height();
     if (scrolls && room > screen.height() / 2)
         menu->resize(menu->width(), room);
-    position.setX(qMin(position.x(), screen.right() + 1 - menu->width()));
+    position.setX(qMax(screen.left(), qMin(position.x(), screen.right() + 1 - menu->width())));
     position.setY(qMin(position.y(), screen.bottom() + 1 - menu->height()));
     menu->move(position);
 }
@@ -152,8 +159,8 @@ void AddressEntryPrivate::paintBackground(QPainter &painter) const
     painter.save();
     painter.setPen(Qt::NoPen);
     if (isSplit()) {
-        const QRect textPart(0, 0, textPartWidth(), height);
-        const QRect arrowPart(textPartWidth(), 0, arrowPartSize.width(), height);
+        const QRect textPart = visual(QRect(0, 0, textPartWidth(), height));
+        const QRect arrowPart = visual(QRect(textPartWidth(), 0, arrowPartSize.width(), height));
         if (arrowHovered) {
             painter.fillRect(arrowPart, q->isDown() ? pressedBrush : normalBrush);
             painter.fillRect(textPart, q->isDown() ? activeBrush : lightBrush);
@@ -173,7 +180,7 @@ void AddressEntryPrivate::paintBackground(QPainter &painter) const
     };
     drawBorder(0);
     if (isSplit())
-        drawBorder(textPartWidth());
+        drawBorder(q->isRightToLeft() ? width - textPartWidth() - pixel : textPartWidth());
     drawBorder(width - pixel);
     painter.restore();
 }
@@ -183,8 +190,8 @@ void AddressEntryPrivate::paintText(QPainter &painter) const
     Q_Q(const AddressEntry);
     const int width = q->fontMetrics().size(Qt::TextSingleLine, q->text()).width();
     painter.setPen(Qt::black);
-    painter.drawText(QRect(textLeft, 0, width, q->height()), Qt::AlignVCenter | Qt::TextSingleLine,
-                     q->text());
+    painter.drawText(visual(QRect(textLeft, 0, width, q->height())),
+                     Qt::AlignVCenter | Qt::TextSingleLine, q->text());
 }
 
 void AddressEntryPrivate::paintArrow(QPainter &painter) const
@@ -192,6 +199,9 @@ void AddressEntryPrivate::paintArrow(QPainter &painter) const
     Q_Q(const AddressEntry);
     const QString file = q->isDown() && arrowHovered ? QStringLiteral(":/res/arrowDown.svg")
                                                      : QStringLiteral(":/res/arrowRight.svg");
+    // In the mirror the arrow points to the left.
+    if (q->isRightToLeft())
+        painter.setTransform(QTransform(-1, 0, 0, 1, q->width(), 0), true);
     painter.drawPixmap(q->width() - arrowRight - arrowSize.width(),
                        (q->height() - arrowSize.height()) / 2,
                        arrowPixmap(file, arrowSize, q->devicePixelRatio()));
@@ -257,7 +267,7 @@ void AddressEntry::mousePressEvent(QMouseEvent *event)
     setDown(true);
     if (!menu() || popupMode() == QToolButton::DelayedPopup)
         return;
-    d->setArrowHovered(d->arrowRect.contains(event->position().toPoint()));
+    d->setArrowHovered(d->visual(d->arrowRect).contains(event->position().toPoint()));
     if (!d->arrowHovered)
         return;
     d->menuShown = true;
@@ -269,7 +279,7 @@ void AddressEntry::mouseMoveEvent(QMouseEvent *event)
 {
     Q_D(AddressEntry);
     event->accept();
-    d->setArrowHovered(d->arrowRect.contains(event->position().toPoint()));
+    d->setArrowHovered(d->visual(d->arrowRect).contains(event->position().toPoint()));
     QToolButton::mouseMoveEvent(event);
 }
 

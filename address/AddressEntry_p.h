@@ -21,6 +21,8 @@ public:
 
     bool isSplit() const;
     int textPartWidth() const;
+    //! Where \a rect of the left-to-right crumb is.
+    QRect visual(const QRect &rect) const;
     QSize measure();
     void setArrowHovered(bool on);
     void createMenu(const QStringList &names, const QIcon &icon);

@@ -5,6 +5,7 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QStyle>
 
 namespace Norvane {
 
@@ -19,10 +20,13 @@ void DockStatusBarPrivate::place()
 {
     if (!panel || !offset)
         return;
-    int x = *offset - panelHolder->x();
+    const auto mirrored = [this](const QWidget *around, const QRect &rect) {
+        return QStyle::visualRect(panelHolder->layoutDirection(), around->rect(), rect);
+    };
+    int x = *offset - mirrored(q_func(), panelHolder->geometry()).x();
     if (panelHolder->width() - x < panel->width())
         x = panelHolder->width() - panel->width();
-    panel->move(x, 0);
+    panel->move(mirrored(panelHolder, QRect(QPoint(x, 0), panel->size())).topLeft());
 }
 
 DockStatusBar::DockStatusBar(QWidget *parent)
@@ -71,7 +75,8 @@ bool DockStatusBar::eventFilter(QObject *watched, QEvent *event)
 {
     Q_D(DockStatusBar);
     if (watched == d->panelHolder
-        && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        && (event->type() == QEvent::Resize || event->type() == QEvent::Move
+            || event->type() == QEvent::LayoutDirectionChange))
         d->place();
     return QStatusBar::eventFilter(watched, event);
 }

@@ -69,6 +69,8 @@ private Q_SLOTS:
     void ampersandIsDrawn();
     void arrowPointsDownWhileItIsPressed();
     void arrowStandsAtTheEnd();
+    void isTheMirrorImageFromTheRight();
+    void menuOpensUnderTheArrowFromTheRight();
 };
 
 namespace {
@@ -839,6 +841,54 @@ void tst_AddressEntry::arrowStandsAtTheEnd()
     QVERIFY(f.plain.open());
     QVERIFY(
         Shot(f.plain.entry).bounds(Qt::black, QRect(4 + f.plain.advance(), 0, 4, 22)).isEmpty());
+}
+
+void tst_AddressEntry::isTheMirrorImageFromTheRight()
+{
+    Fixture f;
+    QVERIFY(f.split.open());
+    const int width = f.split.entry->width();
+    for (const QPoint from : {QPoint(-5, 5), f.split.onText(), f.split.onArrow()}) {
+        f.split.setLayoutDirection(Qt::LeftToRight);
+        Gui::moveMouse(f.split.entry, from);
+        const QImage picture = Gui::picture(f.split.entry);
+        f.split.setLayoutDirection(Qt::RightToLeft);
+        Gui::moveMouse(f.split.entry, QPoint(width - 1 - from.x(), from.y()));
+        const QImage other = Gui::picture(f.split.entry).mirrored(true, false);
+        // Letters do not start at the same part of a pixel, and blending rounds.
+        const int ratio = qRound(picture.devicePixelRatio());
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (x >= 3 * ratio && x < picture.width() - 20 * ratio)
+                    continue;
+                const QColor expected = picture.pixelColor(x, y);
+                const QColor actual = other.pixelColor(x, y);
+                QVERIFY(qAbs(expected.red() - actual.red()) <= 4);
+                QVERIFY(qAbs(expected.green() - actual.green()) <= 4);
+                QVERIFY(qAbs(expected.blue() - actual.blue()) <= 4);
+            }
+        }
+        const QPoint letter = QPoint(8, 8) * ratio;
+        QCOMPARE(other.pixelColor(letter), picture.pixelColor(letter));
+    }
+}
+
+void tst_AddressEntry::menuOpensUnderTheArrowFromTheRight()
+{
+    Fixture f;
+    QVERIFY(f.split.open());
+    f.split.move(300, 100);
+    f.split.setLayoutDirection(Qt::RightToLeft);
+    QRect geometry;
+    QVERIFY(whileOpen(
+        f.split.entry->menu(), [&] { Gui::press(f.split.entry, QPoint(5, 11)); },
+        [&] { geometry = f.split.entry->menu()->geometry(); }));
+    QCOMPARE(geometry.topRight() + QPoint(1, 0),
+             f.split.entry->mapToGlobal(QPoint(f.split.entry->width() - f.split.textPart(), 22)));
+    // The name is on the other side now.
+    Gui::press(f.split.entry, QPoint(f.split.entry->width() - 5, 11));
+    QVERIFY(!f.split.entry->menu()->isVisible());
+    Gui::release(f.split.entry, QPoint(f.split.entry->width() - 5, 11));
 }
 
 NORVANE_TEST_MAIN(tst_AddressEntry)

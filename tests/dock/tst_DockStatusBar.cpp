@@ -9,6 +9,7 @@
 #include <dock/DockStatusBar.h>
 
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QPushButton>
 
 using namespace Norvane;
 using namespace Qt::StringLiterals;
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void fitsAPanelThatWasNeverLaidOut();
     void keepsAPanelHiddenThatWasHidden();
     void placesThePanelAtTheOffset();
+    void placesThePanelFromTheRight();
     void keepsThePanelInsideOnTheRight();
     void keepsThePanelInPlaceWhenItIsResized();
     void doesNothingWithoutAPanel();
@@ -105,6 +107,23 @@ void tst_DockStatusBar::placesThePanelAtTheOffset()
         QCOMPARE(panel->mapTo(&bar, QPoint()).x(), x);
         QCOMPARE(panel->y(), 0);
     }
+}
+
+void tst_DockStatusBar::placesThePanelFromTheRight()
+{
+    DockStatusBar bar;
+    QWidget *panel = panelOf(100, 30);
+    bar.setPanel(panel);
+    bar.addPermanentWidget(new QPushButton);
+    bar.resize(600, 40);
+    QVERIFY(Gui::open(&bar));
+    bar.setPanelOffset(35);
+    bar.setLayoutDirection(Qt::RightToLeft);
+    QTRY_COMPARE(panel->mapTo(&bar, QPoint(100, 0)).x(), 600 - 35);
+    bar.setPanelOffset(200);
+    QCOMPARE(panel->mapTo(&bar, QPoint(100, 0)).x(), 600 - 200);
+    bar.setPanelOffset(10000);
+    QCOMPARE(panel->x(), 0);
 }
 
 void tst_DockStatusBar::keepsThePanelInsideOnTheRight()

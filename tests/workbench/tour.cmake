@@ -15,7 +15,8 @@ endfunction()
 
 hashes(before)
 file(REMOVE_RECURSE ${PICTURES})
-execute_process(COMMAND ${PROGRAM} --tour ${PICTURES} RESULT_VARIABLE result ERROR_VARIABLE errors)
+execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} --tour ${PICTURES}
+    RESULT_VARIABLE result ERROR_VARIABLE errors)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "The tour ended with ${result}: ${errors}")
 endif()

@@ -18,6 +18,8 @@ TextEditor::TextEditor(TextOptions *options, QWidget *parent)
     , m_options(options)
 {
     setFrameShape(QFrame::NoFrame);
+    // Each paragraph has the direction of its own text, whatever that of the program is.
+    setLayoutDirection(Qt::LeftToRight);
     document()->setDocumentMargin(8);
     connect(m_options, &TextOptions::changed, this, &TextEditor::applyOptions);
     applyOptions();

@@ -274,7 +274,8 @@ void Tour::closeUnsaved()
         u"closing what is not saved"_s,
         [this] {
             const QRect tab = tabBar()->tabRect(tabBar()->currentIndex());
-            Input::click(tabBar(), QPoint(tab.right() - 11, tab.center().y()));
+            const QPoint button(tab.right() - 11, tab.center().y());
+            Input::click(tabBar(), QStyle::visualPos(tabBar()->layoutDirection(), tab, button));
         },
         [box] { return box() != nullptr; });
     m_player.addPicture(u"close-asks"_s);
@@ -334,7 +335,7 @@ void Tour::addTabClick(const QString &file)
         u"bringing "_s + file + u" to the front"_s,
         [this, file, content] {
             const int index = content()->tabOf(tabs()->find(copyOf(file)));
-            Input::click(tabBar(), tabBar()->tabRect(index).topLeft() + QPoint(12, 12));
+            Input::click(tabBar(), tabBar()->tabRect(index).center());
         },
         [this, file] { return document()->title() == file; });
 }
