@@ -51,7 +51,7 @@ int RibbonTabBar::addTab(const QString &text, bool temporary)
     Q_D(RibbonTabBar);
     // A hidden tab is polished when it is shown: showing a polished bar does not descend to it.
     ensurePolished();
-    DeferredPolish::eatRequests();
+    DeferredPolish::putOffHiddenChildren(this);
     auto *tab = new RibbonTab(text, this);
     tab->setTemporary(temporary);
     if (d->tabs.isEmpty())

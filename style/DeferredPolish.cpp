@@ -3,13 +3,13 @@
 
 #include "DeferredPolish.h"
 
-#include "RibbonTab.h"
 #include "StyleChangeEater.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
@@ -23,18 +23,24 @@ namespace {
 class PolishRequestEater : public QObject
 {
 public:
-    static void stay()
+    static PolishRequestEater *stay()
     {
         static QPointer<PolishRequestEater> eater;
         if (!eater)
             eater = new PolishRequestEater;
         eater->m_stay = true;
+        return eater;
     }
+
+    void spareHiddenChildrenOf(const QWidget *parent) { m_parents.insert(parent); }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        return event->type() == QEvent::PolishRequest && watched->isWidgetType()
-            && DeferredPolish::isUnseen(static_cast<QWidget *>(watched));
+        if (event->type() != QEvent::PolishRequest || !watched->isWidgetType())
+            return false;
+        const auto *widget = static_cast<QWidget *>(watched);
+        return DeferredPolish::isUnseen(widget)
+            || (widget->isHidden() && m_parents.contains(widget->parentWidget()));
     }
 
 protected:
@@ -58,6 +64,7 @@ private:
     }
 
     bool m_stay = true;
+    QSet<const QWidget *> m_parents;
 };
 
 QHash<const QWidget *, DeferredPolish *> &unseenPages()
@@ -92,13 +99,12 @@ DeferredPolish::~DeferredPolish()
 
 bool DeferredPolish::isUnseen(const QWidget *widget)
 {
-    return unseenPageOf(widget->parentWidget())
-        || (widget->isHidden() && qobject_cast<const RibbonTab *>(widget));
+    return unseenPageOf(widget->parentWidget());
 }
 
-void DeferredPolish::eatRequests()
+void DeferredPolish::putOffHiddenChildren(const QWidget *parent)
 {
-    PolishRequestEater::stay();
+    PolishRequestEater::stay()->spareHiddenChildrenOf(parent);
 }
 
 QWidget *DeferredPolish::nursery(QWidget *parent)

@@ -14,11 +14,11 @@ namespace Norvane {
 /*!
     Keeps the widgets of a page from being polished before the page is seen for the first time.
 
-    Polishing is nearly all that a ribbon under a style sheet costs, and most of its pages are not
-    looked at for long, if ever. What would polish a widget of a hidden page are the request that
-    every new widget posts to itself, swallowed here; the window's show, which descends into every
-    child and stops at one that is polished already, as a page is before it gets its first group;
-    and layouts that ask for size hints, which the bar's layout does not do with its pages.
+    Polishing is nearly all that a ribbon or a dock panel under a style sheet costs, and most of
+    their pages are not looked at for long, if ever. What would polish a widget of a hidden page are
+    the request that every new widget posts to itself, swallowed here; the window's show, which
+    descends into every child and stops at one that is polished already, as a page is before it gets
+    its first child; and layouts that ask for size hints, which those of the pages do not.
 */
 class DeferredPolish : public QObject
 {
@@ -36,12 +36,12 @@ public:
         as polishing, and Qt keeps the answer, which takes more memory than the widget.
     */
     static QWidget *nursery(QWidget *parent);
-    //! Spares a new widget the request to be polished that it has posted to itself.
-    static void eatRequests();
+    //! Spares new children of \a parent that are hidden the request that they post to themselves.
+    static void putOffHiddenChildren(const QWidget *parent);
     //! Brings \a widget from the nursery to \a parent.
     static void adopt(QWidget *widget, QWidget *parent);
 
-    //! Tells whether \a widget is on a page that was never shown, or a hidden tab.
+    //! Tells whether \a widget is on a page that was never shown.
     static bool isUnseen(const QWidget *widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
