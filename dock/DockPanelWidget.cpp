@@ -3,9 +3,10 @@
 
 #include "DockPanelWidget_p.h"
 
+#include "DeferredPolish.h"
+#include "DockPageStack.h"
 #include "DockPanel.h"
 #include "DockView.h"
-#include "StyleChangeEater.h"
 
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QSplitter>
@@ -13,7 +14,7 @@
 namespace Norvane {
 
 DockPanelWidgetPrivate::DockPanelWidgetPrivate()
-    : stackedWidget(new QStackedWidget)
+    : stackedWidget(new DockPageStack)
 {
 }
 
@@ -130,9 +131,15 @@ int DockPanelWidget::addView(QWidget *widget, const QIcon &icon, const QString &
         d->panel->setChecked(button, false);
     auto *page = new QSplitter(d->panel->orientation());
     page->setHandleWidth(0);
+    new DeferredPolish(page);
+    page->ensurePolished();
     page->addWidget(d->createView(widget, text));
     page->setCollapsible(0, false);
-    const StyleChangeEater eater;
+    // One that is not hidden measures its views as soon as it is under the sheet, and one that
+    // waits for its size shares the room among them when the window is shown.
+    page->hide();
+    page->setAttribute(Qt::WA_PendingResizeEvent, false);
+    DeferredPolish::adopt(page, d->stackedWidget);
     return d->stackedWidget->addWidget(page);
 }
 
@@ -144,6 +151,7 @@ int DockPanelWidget::tabifyView(int index, QWidget *widget, const QIcon &icon, c
         return -1;
     d->panel->tabifyButton(index, text, icon);
     DockView *view = d->createView(widget, text);
+    DeferredPolish::adopt(view, page);
     page->addWidget(view);
     const int position = page->indexOf(view);
     page->setCollapsible(position, false);

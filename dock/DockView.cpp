@@ -3,6 +3,7 @@
 
 #include "DockView_p.h"
 
+#include "DeferredPolish.h"
 #include "DockTitle.h"
 
 #include <QtCore/QChildEvent>
@@ -23,7 +24,7 @@ bool DockViewPrivate::isOffstage() const
 {
     Q_Q(const DockView);
     const QWidget *page = q->parentWidget();
-    return page && page->isHidden() && !q->testAttribute(Qt::WA_WState_Polished);
+    return page && page->isHidden() && DeferredPolish::isUnseen(q);
 }
 
 DockView::DockView(QWidget *parent)
@@ -93,8 +94,8 @@ void DockView::setCollapseButtonVisible(bool visible)
     d->title->setCollapseButtonVisible(visible);
 }
 
-// A view on a page that is not in front is measured when it has its style. Asked before, it would
-// be polished for the answer, and again when its page comes under the sheet.
+// A view on a page that was never in front would be polished for the answer, and its widget with
+// it. Until then only what the application has set counts.
 QSize DockView::sizeHint() const
 {
     Q_D(const DockView);
@@ -104,7 +105,9 @@ QSize DockView::sizeHint() const
 QSize DockView::minimumSizeHint() const
 {
     Q_D(const DockView);
-    return d->isOffstage() ? QSize(0, 0) : QFrame::minimumSizeHint();
+    if (!d->isOffstage())
+        return QFrame::minimumSizeHint();
+    return d->widget ? d->widget->minimumSize() : QSize(0, 0);
 }
 
 bool DockView::event(QEvent *event)
