@@ -32,6 +32,7 @@ class tst_AddressFileOperations : public TestCase
 private Q_SLOTS:
     void checksACopy_data();
     void checksACopy();
+    void findsThePathOfTheSourceAnywhere();
     void checksACopyThroughLinks_data();
     void checksACopyThroughLinks();
     void checksACopyOfPipes();
@@ -222,6 +223,19 @@ void tst_AddressFileOperations::checksACopy()
     QTEST(
         AddressFileOperations::check(QFileInfo(files.path(source)), QFileInfo(files.path(target))),
         "expected");
+}
+
+void tst_AddressFileOperations::findsThePathOfTheSourceAnywhere()
+{
+    const Files files({u"f=1"_s});
+    const QString source = files.path(u"f"_s);
+    QCOMPARE(AddressFileOperations::check(QFileInfo(source),
+                                          QFileInfo(files.path(u"backup"_s) + source + u"s/f"_s)),
+             AddressFileOperations::TargetInsideSource);
+    // But only in the folder that the target lies in.
+    QCOMPARE(AddressFileOperations::check(QFileInfo(source),
+                                          QFileInfo(files.path(u"backup"_s) + source)),
+             AddressFileOperations::TargetFree);
 }
 
 void tst_AddressFileOperations::checksACopyThroughLinks_data()
@@ -456,6 +470,8 @@ void tst_AddressFileOperations::asksAboutAFile()
     const Answers::Box box = answers.boxes().constFirst();
     QCOMPARE(box.title, u"information"_s);
     QCOMPARE(box.text, conflict(u"f"_s));
+    // A name is no markup.
+    QCOMPARE(box.format, Qt::PlainText);
     QCOMPARE(box.buttons,
              QStringList({u"Replace Current"_s, u"Save a Copy"_s, u"Skip"_s, u"Cancel"_s}));
     QCOMPARE(clipboardIsEmpty(), cut);
@@ -542,6 +558,7 @@ void tst_AddressFileOperations::reportsWhatCannotBeCopied()
         QCOMPARE(answers.boxes().size(), 1);
         const Answers::Box box = answers.boxes().constFirst();
         QCOMPARE(box.title, u"Copy Error"_s);
+        QCOMPARE(box.format, Qt::PlainText);
         QCOMPARE(box.text,
                  reason.isEmpty() ? u"Source file does not exist"_s : refusal(from, to, reason));
         QCOMPARE(box.buttons, QStringList{u"OK"_s});

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void actsOnNothingAfterItsFolderIsGone();
     void selectsWhereItCameFrom_data();
     void selectsWhereItCameFrom();
+    void selectsWhereItCameFromWithAKeyDown_data();
+    void selectsWhereItCameFromWithAKeyDown();
     void deletesNothingAfterANavigation();
     void knowsItsTarget();
 
@@ -436,6 +438,7 @@ void tst_AddressTree::actsOnNothingBeforeItShowsAFolder()
     tree.setFocus();
     tree.key(Qt::Key_V, Qt::ControlModifier);
     tree.action(u"Folder"_s)->trigger();
+    QVERIFY(!tree.editor());
     tree.key(Qt::Key_Delete);
     tree.key(Qt::Key_F2);
     const Drop drop(tree.viewport(), filesOf({files.path(u"f"_s)}).get(), tree.emptyPosition());
@@ -493,6 +496,32 @@ void tst_AddressTree::selectsWhereItCameFrom()
     QCOMPARE(tree.selected(), selected);
     for (const QModelIndex &index : tree.selectionModel()->selectedRows())
         QCOMPARE(index.parent(), tree.rootIndex());
+}
+
+void tst_AddressTree::selectsWhereItCameFromWithAKeyDown_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("control") << Qt::Key_Control << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("shift") << Qt::Key_Shift << Qt::KeyboardModifiers(Qt::ShiftModifier);
+}
+
+// With one of these keys a view adds to its selection.
+void tst_AddressTree::selectsWhereItCameFromWithAKeyDown()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    const Files files({u"a/b"_s, u"a/b/f=1"_s, u"z"_s});
+    Tree tree(files);
+    QVERIFY(tree.open(u"a/b"_s));
+    tree.click(u"a/b/f"_s);
+    QTest::keyPress(tree.windowHandle(), key, modifiers);
+    QCOMPARE(QGuiApplication::keyboardModifiers(), modifiers);
+    tree.slotPathChanged(files.path(u"a"_s));
+    QCOMPARE(tree.selected(), QStringList{u"b"_s});
+    tree.slotPathChanged(files.path(u"z"_s));
+    QCOMPARE(tree.selected(), QStringList());
+    QTest::keyRelease(tree.windowHandle(), key);
 }
 
 void tst_AddressTree::deletesNothingAfterANavigation()

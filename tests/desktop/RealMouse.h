@@ -48,6 +48,27 @@ inline void drag(QPoint by)
     xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
 }
 
+/*!
+    Drags from one point to another and comes back at once: while something is dragged, Qt comes
+    back to nobody.
+*/
+inline bool startDrag(QPoint from, QPoint to)
+{
+    // As slow as a hand, or windows are passed without being entered.
+    const QStringList pause{QStringLiteral("sleep"), QStringLiteral("0.05")};
+    QStringList arguments;
+    const auto moveTo = [&](QPoint point) {
+        arguments << QStringLiteral("mousemove") << QString::number(point.x())
+                  << QString::number(point.y()) << pause;
+    };
+    moveTo(from);
+    arguments << QStringLiteral("mousedown") << QStringLiteral("1") << pause;
+    for (int step = 1; step <= 8; ++step)
+        moveTo(from + (to - from) * step / 8);
+    arguments << QStringLiteral("mouseup") << QStringLiteral("1");
+    return QProcess::startDetached(QStringLiteral("xdotool"), arguments);
+}
+
 inline void key(const QString &name)
 {
     xdotool({QStringLiteral("key"), name});

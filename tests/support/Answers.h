@@ -31,6 +31,7 @@ public:
     {
         QString title;
         QString text;
+        Qt::TextFormat format;
         QStringList buttons;
     };
 
@@ -58,7 +59,7 @@ private:
         if (!box || box == m_answered || !box->windowHandle() || !box->windowHandle()->isExposed())
             return;
         m_answered = box;
-        Box seen{box->windowTitle(), box->text(), {}};
+        Box seen{box->windowTitle(), box->text(), box->textFormat(), {}};
         const QList<QAbstractButton *> buttons = box->buttons();
         for (const QAbstractButton *button : buttons)
             seen.buttons << button->text().remove(u'&');
