@@ -55,7 +55,7 @@
     <name>Norvane::AddressEntry</name>
     <message>
         <source>Root</source>
-        <translation>Wurzel</translation>
+        <translation>Stammverzeichnis</translation>
     </message>
 </context>
 <context>

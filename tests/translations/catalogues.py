@@ -2,7 +2,10 @@
 # SPDX-FileCopyrightText: Norvane contributors
 # SPDX-License-Identifier: MIT
 
-"""catalogues.py LUPDATE TREE: the translations have the texts of the sources, and all are done."""
+"""catalogues.py FOLDER LUPDATE ROOM...
+
+The translations in the folder have the texts of the sources in the rooms, and all are done.
+"""
 
 import re
 import subprocess
@@ -11,9 +14,8 @@ import tempfile
 import xml.etree.ElementTree
 from pathlib import Path
 
-LUPDATE = sys.argv[1]
-TREE = Path(sys.argv[2])
-SOURCES = ["accessibility", "address", "dock", "frame", "gallery", "include", "ribbon", "style"]
+FOLDER = Path(sys.argv[1])
+LUPDATE, *ROOMS = sys.argv[2:]
 
 # All that the English file is there for.
 MISSPELT = ["Close All(Except Current)", "Infomation", "The director entered ", "The Target folder ",
@@ -38,10 +40,10 @@ def is_misspelt(text):
 
 with tempfile.TemporaryDirectory() as folder:
     fresh = Path(folder) / "fresh.ts"
-    subprocess.run([LUPDATE, "-silent", *SOURCES, "-ts", str(fresh)], cwd=TREE, check=True)
+    subprocess.run([LUPDATE, "-silent", *ROOMS, "-ts", str(fresh)], check=True)
     texts = messages(fresh)
 
-files = sorted((TREE / "translations").glob("norvane_*.ts"))
+files = sorted(FOLDER.glob("norvane_*.ts"))
 for file in files:
     translations = messages(file)
     for context, source, _ in texts.keys() - translations.keys():
