@@ -74,9 +74,11 @@ void HomePage::addFileGroup(RecentFiles *recent)
                                        {QKeySequence(u"Ctrl+W"_s), QKeySequence(u"Ctrl+F4"_s)}});
     m_close = closeMenu->menuAction();
     connect(m_close, &QAction::triggered, this, [this] { m_files->close(document()); });
-    m_closeOthers = addCommand(
-        {tr("Close Others"), "close-others"_L1, tr("Close all documents but this one"), {}},
-        closeMenu);
+    m_closeOthers = addCommand({tr("Close Others"),
+                                "close-others"_L1,
+                                tr("Close all documents but this one"),
+                                {QKeySequence(u"Ctrl+Alt+W"_s)}},
+                               closeMenu);
     connect(m_closeOthers, &QAction::triggered, this, [this] { m_files->closeOthers(document()); });
     m_closeAll = addCommand({tr("Close All"),
                              "close-all"_L1,
@@ -144,12 +146,16 @@ void HomePage::addFindGroup()
     QAction *next = addCommand(
         {tr("Find Next"), "find-next"_L1, tr("Find the next place"), {QKeySequence(u"F3"_s)}});
     connect(next, &QAction::triggered, m_findField, &FindField::findNext);
-    QAction *matchCase = addCommand(
-        {tr("Match Case"), "match-case"_L1, tr("Tell capital letters from small ones"), {}});
+    QAction *matchCase = addCommand({tr("Match Case"),
+                                     "match-case"_L1,
+                                     tr("Tell capital letters from small ones"),
+                                     {QKeySequence(u"Alt+C"_s)}});
     matchCase->setCheckable(true);
     connect(matchCase, &QAction::toggled, m_findField, &FindField::setMatchCase);
-    QAction *wholeWords =
-        addCommand({tr("Whole Words"), "whole-words"_L1, tr("Find whole words only"), {}});
+    QAction *wholeWords = addCommand({tr("Whole Words"),
+                                      "whole-words"_L1,
+                                      tr("Find whole words only"),
+                                      {QKeySequence(u"Alt+W"_s)}});
     wholeWords->setCheckable(true);
     connect(wholeWords, &QAction::toggled, m_findField, &FindField::setWholeWords);
 
