@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "WorkbenchWindow.h"
+#include "picture/EffectGallery.h"
+
+#include <QtWidgets/QPushButton>
 
 using namespace Workbench;
 
@@ -15,6 +18,10 @@ private Q_SLOTS:
     void cropsTheFileToADraggedSelection();
     void fitsAndShowsTheActualSize();
     void offersCropOnlyWithASelection();
+    void appliesAnEffectOfTheStrip();
+    void appliesAnEffectOfThePopup();
+    void collectsEffects();
+    void keepsTheSelectionIfItCan();
 };
 
 void tst_PicturePage::turnsTheFile_data()
@@ -103,6 +110,85 @@ void tst_PicturePage::offersCropOnlyWithASelection()
     QVERIFY(crop->isEnabled());
     window.view()->setSelection(QRect());
     QVERIFY(!crop->isEnabled());
+}
+
+// Opens the popup with the mouse, and does something else while it is open.
+static void openEffects(const WorkbenchWindow &window, const std::function<void(QMenu *)> &then)
+{
+    const auto *gallery = window.ribbon()->findChild<EffectGallery *>();
+    const auto *opener = gallery->findChild<QPushButton *>(QStringLiteral("popupButton"));
+    WorkbenchWindow::openMenu([opener] { Gui::click(opener); }, then);
+}
+
+static QToolButton *effect(const QWidget *parent, const QString &name)
+{
+    const QList<QToolButton *> buttons = parent->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->isVisible() && button->text() == name)
+            return button;
+    }
+    return nullptr;
+}
+
+void tst_PicturePage::appliesAnEffectOfTheStrip()
+{
+    const Files files;
+    const WorkbenchWindow window({files.writeQuarters(QStringLiteral("a.png"), QSize(40, 20))});
+    window.clickPage(QStringLiteral("Picture"));
+    const QImage before = window.view()->image();
+    window.clickButton(QStringLiteral("Negative"));
+    QCOMPARE(window.view()->image().pixelColor(0, 0), QColor(Qt::cyan));
+    QCOMPARE(window.view()->image().pixelColor(39, 19), QColor(Qt::black));
+    QVERIFY(window.document()->isModified());
+    window.key(Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(window.view()->image(), before);
+    QVERIFY(!window.document()->isModified());
+    window.key(Qt::Key_Y, Qt::ControlModifier);
+    QTRY_COMPARE(window.view()->image().pixelColor(0, 0), QColor(Qt::cyan));
+    window.key(Qt::Key_S, Qt::ControlModifier);
+    QTRY_COMPARE(QImage(files.path(QStringLiteral("a.png"))).pixelColor(0, 0), QColor(Qt::cyan));
+}
+
+void tst_PicturePage::appliesAnEffectOfThePopup()
+{
+    const Files files;
+    const WorkbenchWindow window({files.writeQuarters(QStringLiteral("a.png"), QSize(40, 20))});
+    window.clickPage(QStringLiteral("Picture"));
+    openEffects(window, [](QMenu *menu) { Gui::click(effect(menu, QStringLiteral("Half Size"))); });
+    QCOMPARE(window.view()->image().size(), QSize(20, 10));
+    window.key(Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(window.view()->image(), Files::quarters(QSize(40, 20)));
+}
+
+void tst_PicturePage::collectsEffects()
+{
+    const Files files;
+    const WorkbenchWindow window({files.writeQuarters(QStringLiteral("a.png"), QSize(40, 20))});
+    window.clickPage(QStringLiteral("Picture"));
+    QVERIFY(!window.button(QStringLiteral("Swirl")));
+    openEffects(window, [](QMenu *menu) {
+        const QToolButton *swirl = effect(menu, QStringLiteral("Swirl"));
+        Gui::moveMouse(swirl, QPoint(40, 40));
+        Gui::click(swirl->findChild<QToolButton *>());
+        menu->close();
+    });
+    QTRY_VERIFY(window.button(QStringLiteral("Swirl")));
+    QVERIFY(!window.document()->isModified());
+}
+
+void tst_PicturePage::keepsTheSelectionIfItCan()
+{
+    const Files files;
+    const WorkbenchWindow window({files.writeQuarters(QStringLiteral("a.png"), QSize(80, 60))});
+    window.clickPage(QStringLiteral("Picture"));
+    const QRect selection(10, 10, 20, 20);
+    window.view()->setSelection(selection);
+    window.clickButton(QStringLiteral("Darker"));
+    QCOMPARE(window.view()->selection(), selection);
+    openEffects(window, [](QMenu *menu) { Gui::click(effect(menu, QStringLiteral("Square"))); });
+    QVERIFY(window.view()->selection().isEmpty());
+    window.key(Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(window.view()->selection(), selection);
 }
 
 NORVANE_TEST_MAIN(tst_PicturePage)

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "WorkbenchWindow.h"
+#include "text/SnippetGallery.h"
 
+#include <QtCore/QDate>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFontComboBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 
 using namespace Workbench;
@@ -23,6 +26,8 @@ private Q_SLOTS:
     void editsByClick_data();
     void editsByClick();
     void setsTheFontOfAllTexts();
+    void insertsSnippets();
+    void replacesTheSelectionByASnippet();
     void protectsATextThatCannotBeChanged();
 };
 
@@ -173,6 +178,63 @@ void tst_TextPage::setsTheFontOfAllTexts()
     QVERIFY(!window.document()->isModified());
 }
 
+static void pickSnippet(const WorkbenchWindow &window, const QString &name)
+{
+    const auto *gallery = window.ribbon()->findChild<SnippetGallery *>();
+    const auto *opener = gallery->findChild<QPushButton *>(QStringLiteral("popupButton"));
+    WorkbenchWindow::openMenu([opener] { Gui::click(opener); },
+                              [&name](QMenu *menu) {
+                                  const auto items = menu->findChildren<QToolButton *>();
+                                  for (const QToolButton *item : items) {
+                                      if (item->text() == name) {
+                                          Gui::click(item);
+                                          return;
+                                      }
+                                  }
+                              });
+}
+
+void tst_TextPage::insertsSnippets()
+{
+    const Files files;
+    const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "one\r\ntwo")});
+    window.clickPage(QStringLiteral("Text"));
+    window.editor()->setFocus();
+    window.key(Qt::Key_End);
+    window.type(QStringLiteral("!"));
+    pickSnippet(window, QStringLiteral("Bullets"));
+    QCOMPARE(window.editor()->toPlainText(),
+             QStringLiteral("one!- First\n- Second\n- Third\n\ntwo"));
+    window.clickButton(QStringLiteral("ISO Date"));
+    const QString date = QDate::currentDate().toString(Qt::ISODate);
+    QCOMPARE(window.editor()->toPlainText(),
+             QStringLiteral("one!- First\n- Second\n- Third\n%1\ntwo").arg(date));
+    // The keys go on to the text, behind what was inserted.
+    window.type(QStringLiteral("?"));
+    window.key(Qt::Key_S, Qt::ControlModifier);
+    QTRY_COMPARE(files.read(QStringLiteral("a.txt")),
+                 "one!- First\r\n- Second\r\n- Third\r\n" + date.toLatin1() + "?\r\ntwo");
+    // What is typed next is undone with the snippet, as after pasting.
+    window.document()->undo();
+    QCOMPARE(window.editor()->toPlainText(),
+             QStringLiteral("one!- First\n- Second\n- Third\n\ntwo"));
+    window.document()->undo();
+    QCOMPARE(window.editor()->toPlainText(), QStringLiteral("one!\ntwo"));
+}
+
+void tst_TextPage::replacesTheSelectionByASnippet()
+{
+    const Files files;
+    const WorkbenchWindow window({files.write(QStringLiteral("a.txt"), "one\ntwo")});
+    window.clickPage(QStringLiteral("Text"));
+    window.editor()->selectAll();
+    pickSnippet(window, QStringLiteral("Arrow"));
+    QCOMPARE(window.editor()->toPlainText(), QString(QChar(0x2192)));
+    window.document()->undo();
+    QCOMPARE(window.editor()->toPlainText(), QStringLiteral("one\ntwo"));
+    QVERIFY(!window.document()->isModified());
+}
+
 void tst_TextPage::protectsATextThatCannotBeChanged()
 {
     const Files files;
@@ -184,6 +246,7 @@ void tst_TextPage::protectsATextThatCannotBeChanged()
     for (const char *command :
          {"Encoding", "Line Ends", "Sort", "Indent", "Outdent", "Upper Case", "Lower Case"})
         QVERIFY2(!window.button(QString::fromLatin1(command))->isEnabled(), command);
+    QVERIFY(!window.ribbon()->findChild<SnippetGallery *>()->isEnabled());
 }
 
 NORVANE_TEST_MAIN(tst_TextPage)

@@ -3,15 +3,16 @@
 
 #include "picture/PictureDocument.h"
 
+#include "picture/PictureEffect.h"
 #include "picture/PictureFormats.h"
 #include "picture/PictureReplaceCommand.h"
 #include "picture/PictureView.h"
+#include "picture/Pixels.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QMimeData>
 #include <QtCore/QSaveFile>
 #include <QtGui/QClipboard>
-#include <QtGui/QColorSpace>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
@@ -25,13 +26,6 @@ static constexpr int jpegQuality = 95;
 static QColor background(const QImage &image)
 {
     return image.hasAlphaChannel() ? Qt::transparent : Qt::white;
-}
-
-// A picture with a palette cannot be painted on.
-static QImage paintable(const QImage &image)
-{
-    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32
-                                                         : QImage::Format_RGB32);
 }
 
 static QImage onWhite(const QImage &image)
@@ -70,6 +64,18 @@ PictureDocument::~PictureDocument()
 void PictureDocument::turn(PictureTurnCommand::Turn turn)
 {
     m_history->push(new PictureTurnCommand(m_view, turn));
+}
+
+void PictureDocument::apply(const PictureEffect &effect)
+{
+    const QImage before = m_view->image();
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const QImage after = effect.apply(before);
+    QGuiApplication::restoreOverrideCursor();
+    if (after.isNull())
+        return;
+    const QRect selection = after.size() == before.size() ? m_view->selection() : QRect();
+    m_history->push(new PictureReplaceCommand(m_view, after, selection));
 }
 
 bool PictureDocument::canCrop() const
@@ -164,7 +170,7 @@ void PictureDocument::cut()
     if (!canCut())
         return;
     copy();
-    QImage image = paintable(m_view->image());
+    QImage image = Pixels::straight(m_view->image());
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(m_view->selection(), background(image));
@@ -183,12 +189,9 @@ void PictureDocument::paste()
     const QImage pasted = QGuiApplication::clipboard()->image();
     if (pasted.isNull())
         return;
-    const QImage before = paintable(m_view->image());
+    const QImage before = Pixels::straight(m_view->image());
     const QRect place(m_view->selection().topLeft(), pasted.size());
-    QImage image(before.rect().united(place).size(), before.format());
-    image.setDotsPerMeterX(before.dotsPerMeterX());
-    image.setDotsPerMeterY(before.dotsPerMeterY());
-    image.setColorSpace(before.colorSpace());
+    QImage image = Pixels::blank(before, before.rect().united(place).size());
     image.fill(background(before));
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Source);

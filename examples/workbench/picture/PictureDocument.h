@@ -11,6 +11,7 @@ class QUndoStack;
 namespace Workbench {
 
 class PictureView;
+struct PictureEffect;
 
 /*!
     A picture file. It is written in the format that its suffix names.
@@ -24,6 +25,8 @@ public:
     ~PictureDocument() override;
 
     void turn(PictureTurnCommand::Turn turn);
+    //! Does nothing if the result would be too large.
+    void apply(const PictureEffect &effect);
     bool canCrop() const;
     void cropToSelection();
     bool isFitted() const;

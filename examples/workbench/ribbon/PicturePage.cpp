@@ -3,6 +3,7 @@
 
 #include "ribbon/PicturePage.h"
 
+#include "picture/EffectGallery.h"
 #include "picture/PictureDocument.h"
 
 #include <Norvane/RibbonGroup.h>
@@ -64,6 +65,11 @@ PicturePage::PicturePage(QWidget *parent)
     connect(m_actualSize, &QAction::triggered, this, [this] { picture()->setZoom(1); });
     size->addAction(m_fit);
     size->addAction(m_actualSize);
+
+    m_effects = new EffectGallery;
+    connect(m_effects, &EffectGallery::picked, this,
+            [this](const PictureEffect &effect) { picture()->apply(effect); });
+    addColumn(addGroup(tr("Effects")))->addWidget(m_effects);
     refresh();
 }
 
@@ -89,6 +95,7 @@ void PicturePage::refresh()
     m_fit->setEnabled(picture);
     m_fit->setChecked(picture && picture->isFitted());
     m_actualSize->setEnabled(picture);
+    m_effects->setEnabled(picture);
 }
 
 } // namespace Workbench

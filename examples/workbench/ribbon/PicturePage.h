@@ -8,6 +8,7 @@
 
 namespace Workbench {
 
+class EffectGallery;
 class PictureDocument;
 
 /*!
@@ -31,6 +32,7 @@ private:
     QAction *m_crop;
     QAction *m_fit;
     QAction *m_actualSize;
+    EffectGallery *m_effects;
 };
 
 } // namespace Workbench

@@ -3,6 +3,7 @@
 
 #include "ribbon/TextPage.h"
 
+#include "text/SnippetGallery.h"
 #include "text/TextDocument.h"
 #include "text/TextEdits.h"
 #include "text/TextOptions.h"
@@ -29,6 +30,7 @@ TextPage::TextPage(TextOptions *options, QWidget *parent)
     addFileFormatGroup();
     addLinesGroup();
     addCaseGroup();
+    addSnippetsGroup();
     refresh();
 }
 
@@ -151,6 +153,15 @@ void TextPage::addCaseGroup()
         [](QTextCursor *cursor) { TextEdits::setCase(cursor, TextEdits::LetterCase::Lower); }));
 }
 
+void TextPage::addSnippetsGroup()
+{
+    m_snippets = new SnippetGallery;
+    connect(m_snippets, &SnippetGallery::picked, this, [this](const QString &snippet) {
+        text()->edit([&snippet](QTextCursor *cursor) { TextEdits::insert(cursor, snippet); });
+    });
+    addColumn(addGroup(tr("Snippets")))->addWidget(m_snippets);
+}
+
 QAction *TextPage::addEdit(const Command &command, void (*edit)(QTextCursor *))
 {
     QAction *action = addCommand(command);
@@ -178,6 +189,7 @@ void TextPage::refresh()
     const bool editable = text && !text->isReadOnly();
     for (QAction *action : std::as_const(m_edits))
         action->setEnabled(editable);
+    m_snippets->setEnabled(editable);
     m_encodingMenu->menuAction()->setEnabled(editable);
     m_lineEndMenu->menuAction()->setEnabled(editable);
     if (!text)

@@ -12,6 +12,7 @@ class QTextCursor;
 
 namespace Workbench {
 
+class SnippetGallery;
 class TextDocument;
 class TextOptions;
 
@@ -34,6 +35,7 @@ private:
     void addFileFormatGroup();
     void addLinesGroup();
     void addCaseGroup();
+    void addSnippetsGroup();
     void showFont();
     //! A command that runs one of TextEdits.
     QAction *addEdit(const Command &command, void (*edit)(QTextCursor *));
@@ -46,6 +48,7 @@ private:
     QActionGroup *m_encodings;
     QActionGroup *m_lineEnds;
     QList<QAction *> m_edits;
+    SnippetGallery *m_snippets;
 };
 
 } // namespace Workbench

@@ -128,4 +128,12 @@ void TextEdits::setCase(QTextCursor *cursor, LetterCase letterCase)
     select(cursor, start, end.position());
 }
 
+void TextEdits::insert(QTextCursor *cursor, const QString &text)
+{
+    // Without a block of its own it would be undone with what is typed before.
+    cursor->beginEditBlock();
+    cursor->insertText(text);
+    cursor->endEditBlock();
+}
+
 } // namespace Workbench

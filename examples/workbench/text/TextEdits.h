@@ -8,8 +8,8 @@
 namespace Workbench {
 
 /*!
-    Edits of whole selections. Each is one step that can be undone, keeps the lines' own ends and
-    leaves \a cursor selecting what was edited.
+    Edits of whole selections. Each is one step that can be undone, keeps the lines' own ends and,
+    but for insert(), leaves \a cursor selecting what was edited.
 */
 class TextEdits
 {
@@ -25,6 +25,8 @@ public:
     static void sortLines(QTextCursor *cursor, Qt::SortOrder order);
     //! Changes the selection, or the word at the cursor if nothing is selected.
     static void setCase(QTextCursor *cursor, LetterCase letterCase);
+    //! Puts \a text in the place of the selection, or at the cursor, and the cursor behind it.
+    static void insert(QTextCursor *cursor, const QString &text);
 };
 
 } // namespace Workbench

@@ -17,10 +17,12 @@
 #include <Norvane/DockContentWidget.h>
 #include <Norvane/DockPanelWidget.h>
 
+#include <QtCore/QDate>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
@@ -29,6 +31,9 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace Workbench {
 
@@ -68,8 +73,10 @@ Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
     findInAll();
     minimizePanels();
     convertText();
+    insertSnippet();
     zoom();
     editPicture();
+    applyEffects();
     closeUnsaved();
     setOptions();
     readHelp();
@@ -231,6 +238,22 @@ void Tour::convertText()
     m_player.addPicture(u"sorted"_s);
 }
 
+void Tour::insertSnippet()
+{
+    m_player.add(
+        u"going to the end of the text"_s,
+        [this] {
+            QWidget *text = document()->findChild<TextEditor *>()->viewport();
+            Input::click(text, text->rect().bottomLeft() + QPoint(20, -20));
+        },
+        [this] { return !document()->findChild<TextEditor *>()->textCursor().hasSelection(); });
+    addButtonClick(u"ISO Date"_s, [this] {
+        return document()->findChild<TextEditor *>()->toPlainText().contains(
+            QDate::currentDate().toString(Qt::ISODate));
+    });
+    m_player.addPicture(u"snippet"_s);
+}
+
 void Tour::zoom()
 {
     addPageClick(u"View"_s);
@@ -265,6 +288,66 @@ void Tour::editPicture()
     addButtonClick(u"Fit"_s,
                    [this] { return static_cast<PictureDocument *>(document())->isFitted(); });
     m_player.addPicture(u"cropped"_s);
+}
+
+void Tour::applyEffects()
+{
+    const auto popup = [] { return QApplication::activePopupWidget(); };
+    const auto strip = [this] {
+        return findVisible<QWidget>(
+            m_window, [](const QWidget *widget) { return widget->objectName() == u"itemsFrame"; });
+    };
+    m_player.add(
+        u"opening the effects"_s,
+        [this] {
+            Input::click(findVisible<QPushButton>(m_window, [](const QPushButton *button) {
+                return button->objectName() == u"popupButton";
+            }));
+        },
+        [popup] { return popup() != nullptr; });
+    m_player.addPicture(u"effects"_s);
+    m_player.add(
+        u"searching for effects"_s,
+        [popup] {
+            Input::click(popup()->findChild<QLineEdit *>());
+            Input::type(popup(), u"S"_s);
+        },
+        [popup] { return items(popup()).constFirst() == u"Shadows"; });
+    m_player.addPicture(u"effects-searched"_s);
+    m_player.add(
+        u"collecting an effect"_s,
+        [popup] {
+            Input::click(
+                findVisible<QToolButton>(
+                    popup(), [](const QToolButton *item) { return item->text() == u"Sepia"; }),
+                QPoint(9, 9));
+        },
+        [popup] { return items(popup()).count(u"Sepia"_s) == 2; });
+    m_player.add(
+        u"looking at all effects again"_s,
+        [popup] {
+            Input::click(popup()->findChild<QLineEdit *>());
+            Input::press(popup(), Qt::Key_Backspace);
+        },
+        [popup] { return items(popup()).contains(u"Brighter"_s); });
+    m_player.add(
+        u"moving a group to the bottom"_s,
+        [popup] {
+            const auto *title = findVisible<QLabel>(
+                popup(), [](const QLabel *label) { return label->text() == u"Tone"; });
+            Input::click(findVisible<QPushButton>(title->parentWidget(),
+                                                  [](const QPushButton *) { return true; }));
+        },
+        [popup] { return items(popup()).at(1) == u"Grey"; });
+    m_player.addPicture(u"effects-collected"_s);
+    m_player.add(
+        u"closing the effects"_s, [popup] { Input::press(popup(), Qt::Key_Escape); },
+        [popup, strip] { return !popup() && items(strip()).constFirst() == u"Sepia"; });
+    const auto colour = [this] {
+        return document()->findChild<PictureView *>()->image().pixelColor(5, 5);
+    };
+    addButtonClick(u"Sepia"_s, [colour] { return colour().red() > colour().blue() + 20; });
+    m_player.addPicture(u"effect"_s);
 }
 
 void Tour::closeUnsaved()
@@ -379,6 +462,26 @@ QToolButton *Tour::button(const QString &command) const
     return findVisible<QToolButton>(m_window, [&](const QToolButton *button) {
         return button->defaultAction() && button->defaultAction()->text() == command;
     });
+}
+
+QStringList Tour::items(const QWidget *gallery)
+{
+    QList<const QToolButton *> items;
+    for (const QToolButton *item : gallery->findChildren<QToolButton *>()) {
+        // Markers and the sign in the search field have no text.
+        if (item->isVisible() && !item->text().isEmpty())
+            items << item;
+    }
+    const auto place = [gallery](const QToolButton *item) {
+        const QPoint corner = item->mapTo(gallery, QPoint());
+        return std::pair(corner.y(), corner.x());
+    };
+    std::sort(items.begin(), items.end(),
+              [&](const QToolButton *a, const QToolButton *b) { return place(a) < place(b); });
+    QStringList names;
+    for (const QToolButton *item : std::as_const(items))
+        names << item->text();
+    return names;
 }
 
 DocumentTabs *Tour::tabs() const

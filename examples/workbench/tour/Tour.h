@@ -47,6 +47,8 @@ private:
     void convertText();
     void zoom();
     void editPicture();
+    void applyEffects();
+    void insertSnippet();
     void closeUnsaved();
     void setOptions();
     void readHelp();
@@ -59,6 +61,8 @@ private:
 
     QWidget *ribbonTab(const QString &title) const;
     QToolButton *button(const QString &command) const;
+    //! The names of the visible items of a gallery's popup or strip, row by row.
+    static QStringList items(const QWidget *gallery);
     DocumentTabs *tabs() const;
     //! The tab bar of the section in front.
     QTabBar *tabBar() const;
