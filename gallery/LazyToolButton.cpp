@@ -35,6 +35,11 @@ bool LazyToolButton::event(QEvent *event)
         if (!testAttribute(Qt::WA_WState_Polished))
             return true;
         break;
+    case QEvent::UpdateLater:
+        // It follows every show, and each button that it marks is compared with all others.
+        if (visibleRegion().isEmpty())
+            return true;
+        break;
     case QEvent::Paint:
         if (!testAttribute(Qt::WA_WState_Polished)) {
             polish();
