@@ -563,13 +563,18 @@ void tst_RibbonGallery::newSizesAreForNewItems()
     for (const RibbonGalleryItem *cell : window.cells())
         QCOMPARE(cell->size(), QSize(50, 40));
     QCOMPARE(window.cells().at(0)->iconSize(), QSize(16, 18));
-    window.gallery->setIconSize({20, 20});
     window.gallery->setActionSize({60, 45});
+    window.gallery->setItemCollected(0, 0, true);
+    QCOMPARE(window.collected()->item(0)->iconSize(), QSize(16, 18));
+    QCOMPARE(window.collected()->item(0)->minimumSize(), QSize(60, 45));
+    window.gallery->setIconSize({20, 20});
+    window.gallery->setItemCollected(0, 1, true);
+    QCOMPARE(window.collected()->item(1)->iconSize(), QSize(20, 20));
+    QCOMPARE(window.collected()->item(1)->minimumSize(), QSize(60, 45));
+    // Those that are there keep theirs.
+    QCOMPARE(window.collected()->item(0)->iconSize(), QSize(16, 18));
     QCOMPARE(window.cells().at(0)->size(), QSize(50, 40));
     QCOMPARE(window.cells().at(0)->iconSize(), QSize(16, 18));
-    window.gallery->setItemCollected(0, 0, true);
-    QCOMPARE(window.collected()->item(0)->iconSize(), QSize(20, 20));
-    QCOMPARE(window.collected()->item(0)->minimumSize(), QSize(60, 45));
 }
 
 void tst_RibbonGallery::itemsHaveTheSizesOfASheet()

@@ -387,6 +387,9 @@ void tst_RibbonGalleryItem::takesItsSizeFromTheSheetsModes()
     Window window(&action);
     if (!mode.isEmpty())
         window.item->setProperty("mode", mode);
+    // Before it is painted, so that the first layout is the last.
+    window.show();
+    QCOMPARE(window.item->minimumSize(), size);
     QVERIFY(window.open());
     QCOMPARE(window.item->minimumSize(), size);
     QCOMPARE(window.item->maximumSize(), size);

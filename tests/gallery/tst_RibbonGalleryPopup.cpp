@@ -647,6 +647,7 @@ void tst_RibbonGalleryPopup::searchCoversCollectedItemsIfEnabled()
     window.search(u"z"_s);
     QVERIFY(window.collected()->isVisible());
     QVERIFY(window.noMatchLabel()->isVisible());
+    QTRY_VERIFY(window.noMatchLabel()->y() > window.collected()->geometry().bottom());
     QCOMPARE(window.popup()->height(), searchHeight + 98);
     window.closePopup();
 }
@@ -847,8 +848,11 @@ void tst_RibbonGalleryPopup::uncollectsByTheCopy()
     QVERIFY(window.openPopup());
     QSignalSpy told(window.item(0, 2), &RibbonGalleryItem::signalCollected);
     QSignalSpy other(window.item(0, 0), &RibbonGalleryItem::signalCollected);
+    QSignalSpy heightTold(window.popup(), &RibbonGalleryPopup::signalHeightChanged);
     const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
     window.clickMarker(copy);
+    // For the copy that is gone, and for the item that is not collected any more.
+    QCOMPARE(heights(heightTold), QList<int>(2, searchHeight + 98 + 98));
     QVERIFY(!copy);
     QVERIFY(!window.item(0, 2)->isCollected());
     QVERIFY(!isMarked(window.item(0, 2)));
