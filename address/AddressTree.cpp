@@ -304,7 +304,11 @@ void AddressTree::slotPathChanged(const QString &path)
     d->model->setRootPath(drives ? path : AddressPath::folder(path));
     const QPersistentModelIndex previous = rootIndex();
     selectionModel()->clear();
+    // To scroll to it would open, and list, every folder above it.
+    const bool scrolls = hasAutoScroll();
+    setAutoScroll(false);
     setCurrentIndex(previous);
+    setAutoScroll(scrolls);
     setRootIndex(d->model->index(d->model->rootPath()));
     // What is selected can be deleted, so it must be seen.
     if (previous.parent() != rootIndex())

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void selectsWhereItCameFrom();
     void selectsWhereItCameFromWithAKeyDown_data();
     void selectsWhereItCameFromWithAKeyDown();
+    void opensNoFoldersOnItsWay();
     void deletesNothingAfterANavigation();
     void knowsItsTarget();
 
@@ -522,6 +523,22 @@ void tst_AddressTree::selectsWhereItCameFromWithAKeyDown()
     tree.slotPathChanged(files.path(u"z"_s));
     QCOMPARE(tree.selected(), QStringList());
     QTest::keyRelease(tree.windowHandle(), key);
+}
+
+void tst_AddressTree::opensNoFoldersOnItsWay()
+{
+    const Files files({u"a/b/c"_s, u"a/d"_s, u"z"_s});
+    Tree tree(files);
+    QVERIFY(tree.open(u"a/b/c"_s));
+    const QSignalSpy opened(&tree, &QTreeView::expanded);
+    for (const QString &path : {u"a/b"_s, u"a"_s, u"z"_s, u"a/b/c"_s, u"a"_s}) {
+        tree.slotPathChanged(files.path(path));
+        QVERIFY(tree.load());
+    }
+    QCOMPARE(opened.size(), 0);
+    QVERIFY(!tree.isExpanded(tree.index(u"a/b"_s)));
+    // The view still scrolls to what a person goes to.
+    QVERIFY(tree.hasAutoScroll());
 }
 
 void tst_AddressTree::deletesNothingAfterANavigation()
