@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#include "Calls.h"
+
+#include <QtCore/QtGlobal>
+
+#include <utility>
+
+#include <dirent.h>
+#include <dlfcn.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+thread_local Calls::Counts counts;
+
+template<typename Function>
+Function next(const char *name)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+Calls::Counts Calls::take()
+{
+    return std::exchange(counts, {});
+}
+
+extern "C" {
+
+Q_DECL_EXPORT DIR *opendir(const char *path)
+{
+    static const auto function = next<DIR *(*)(const char *)>("opendir");
+    ++counts.opendirs;
+    return function(path);
+}
+
+Q_DECL_EXPORT int stat64(const char *path, struct stat64 *result) noexcept
+{
+    static const auto function = next<int (*)(const char *, struct stat64 *)>("stat64");
+    ++counts.stats;
+    return function(path, result);
+}
+
+Q_DECL_EXPORT int lstat64(const char *path, struct stat64 *result) noexcept
+{
+    static const auto function = next<int (*)(const char *, struct stat64 *)>("lstat64");
+    ++counts.stats;
+    return function(path, result);
+}
+
+Q_DECL_EXPORT int statx(int folder, const char *path, int flags, unsigned mask,
+                        struct statx *result) noexcept
+{
+    static const auto function =
+        next<int (*)(int, const char *, int, unsigned, struct statx *)>("statx");
+    ++counts.stats;
+    return function(folder, path, flags, mask, result);
+}
+
+Q_DECL_EXPORT int access(const char *path, int mode) noexcept
+{
+    static const auto function = next<int (*)(const char *, int)>("access");
+    ++counts.stats;
+    return function(path, mode);
+}
+
+} // extern "C"

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Counts what the thread asks the file system. The functions of the same names in this program
+// stand before those of the C library, for Qt too.
+namespace Calls {
+
+struct Counts
+{
+    int opendirs = 0;
+    int stats = 0;
+};
+
+// What this thread asked since the last call.
+Counts take();
+
+} // namespace Calls
