@@ -58,9 +58,8 @@ int main(int argc, char **argv)
 
     DockContentWidget *content = docks->contentWidget();
     const auto showNote = [content, outline, properties] {
-        const int section = content->currentSection();
         auto *note =
-            section < 0 ? nullptr : qobject_cast<QPlainTextEdit *>(content->currentWidget(section));
+            qobject_cast<QPlainTextEdit *>(content->currentWidget(content->currentSection()));
         const QString text = note ? note->toPlainText() : QString();
         outline->clear();
         outline->addItems(text.split('\n'));
@@ -75,6 +74,7 @@ int main(int argc, char **argv)
         content->setCurrentTab(section, content->addTab(section, note, title));
         log->appendPlainText("Opened " + title);
     };
+    QObject::connect(content, &DockContentWidget::signalCurrentSectionChanged, outline, showNote);
     QObject::connect(content, &DockContentWidget::signalCurrentTabChanged, outline, showNote);
     QObject::connect(notes, &QTreeWidget::itemDoubleClicked, content, [=](QTreeWidgetItem *item) {
         if (QTreeWidgetItem *parent = item->parent()) {
