@@ -42,6 +42,7 @@ struct Reference
     QDBusObjectPath path;
 };
 
+// NOLINTNEXTLINE(bugprone-return-const-ref-from-parameter): QDBusArgument is read like this.
 const QDBusArgument &operator>>(const QDBusArgument &argument, Reference &reference)
 {
     argument.beginStructure();
@@ -113,7 +114,7 @@ QString describe(const Reference &object, int depth = 0)
     if (depth > 0 && !is(Showing))
         return QString();
     const QString role = ask(object, u"GetRoleName"_s).arguments().value(0).toString();
-    QString text = QString(2 * depth, u' ') + role;
+    QString text = QString(2 * qsizetype(depth), u' ') + role;
     QString name = nameOf(object);
     if (!name.isEmpty())
         text += u" “"_s + name.replace(u'\n', u'⏎') + u'”';
