@@ -18,14 +18,15 @@ class AddressTreePrivate;
     files and folders with a context menu, with keys and by dragging. Hidden entries are not listed.
 
     What it does to the user's files, without asking first:
-    - Delete moves the selected entries to the trash. Where there is no trash they are deleted for
-      good.
+    - Delete moves the selected entries to the trash. Where the trash does not take them they are
+      deleted for good.
     - A cut removes its source after the paste, in the same way, even if the copy failed or is not
-      complete. Hidden entries of a folder are not in its copy.
+      complete. Hidden entries of a folder are not in its copy, nor is what cannot be read.
     - What a paste or a drop replaces is removed in the same way, before the copy is tried.
     - A drop moves from the same drive and copies from another. Where paths begin with "/", the
       first three characters of the two paths tell whether the drive is the same. After a drop the
       clipboard holds what was dropped, or nothing after a move.
+    - Symbolic links are copied as what they lead to and removed as links.
 */
 class AddressTree : public QTreeView
 {
