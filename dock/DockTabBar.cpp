@@ -11,6 +11,8 @@
 #include <QtWidgets/QStyleOptionTab>
 #include <QtWidgets/QToolTip>
 
+#include <utility>
+
 namespace Norvane {
 
 namespace {
@@ -31,8 +33,11 @@ DockTabBar::DockTabBar(QWidget *parent)
 
 QSize DockTabBar::tabSizeHint(int index) const
 {
-    if (!m_measuring)
-        return sizesOf(index).hint;
+    if (!m_measuring) {
+        const Sizes sizes = sizesOf(index);
+        m_asked = {index, sizes.minimum};
+        return sizes.hint;
+    }
     QSize size = QTabBar::tabSizeHint(index);
     if (size.isValid() && hasCloseButton(index))
         size.rwidth() += closeLook().size.width() + 4;
@@ -41,7 +46,9 @@ QSize DockTabBar::tabSizeHint(int index) const
 
 QSize DockTabBar::minimumTabSizeHint(int index) const
 {
-    return sizesOf(index).minimum;
+    // A layout asks for both in turn.
+    const auto [asked, minimum] = std::exchange(m_asked, {-1, {}});
+    return asked == index ? minimum : sizesOf(index).minimum;
 }
 
 DockTabBar::Sizes DockTabBar::sizesOf(int index) const
@@ -52,16 +59,16 @@ DockTabBar::Sizes DockTabBar::sizesOf(int index) const
     };
     if (index < 0 || index >= count())
         return {};
-    // While a tab is inserted or removed Qt still has another one for the first or the last.
-    if (m_knownCount != count() && (index <= 1 || index >= count() - 2))
-        return measure();
     const Look look = lookOf(index);
     const auto known = m_sizes.constFind(look);
     if (known != m_sizes.constEnd())
         return *known;
+    const Sizes sizes = measure();
+    // While a tab is inserted or removed Qt still has another one for the first or the last.
+    if (m_knownCount != count() && (index <= 1 || index >= count() - 2))
+        return sizes;
     if (m_sizes.size() >= mostSizes)
         m_sizes.clear();
-    const Sizes sizes = measure();
     m_sizes.insert(look, sizes);
     return sizes;
 }

@@ -82,6 +82,7 @@ private:
     // Qt matches the rules of a close button with the parent of the widget that is painted.
     QWidget *m_closeButton;
     mutable QHash<Look, Sizes> m_sizes;
+    mutable std::pair<int, QSize> m_asked{-1, {}};
     mutable std::optional<CloseLook> m_closeLook;
     mutable bool m_measuring = false;
     int m_knownCount = 0;
