@@ -46,6 +46,7 @@ private Q_SLOTS:
     void keepsTheCentreWithAWidthFromALargerWindow();
     void keepsTheHeightsWhenTheContentComesBack();
     void sharesTheColumnWhenTheContentComesBack();
+    void leavesAHiddenPaneMinimizedWhenTheContentComesBack();
     void opensTheBottomPanelWhenTheContentGoes();
     void marksADraggedSidePanel();
     void looksAtBothSidesWhicheverHandleIsDragged();
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void takesOnlyAnotherMainWindowOver();
     void linesTheBarUpWithTheContent();
     void linesTheBarUpWhenTheBottomPaneMoves();
+    void letsEventsThrough();
     void savesTheOuterSplitterAndItsSizes();
     void restoresWhatItSaved();
     void marksRestoredPanelsWithoutWidth();
@@ -428,6 +430,11 @@ void tst_DockContainer::givesTheBottomPanelTheColumnOfNoContent()
     window.container->restoreState(nothingRemembered);
     Gui::click(DockWindow::button(window.bottom, 0));
     QCOMPARE(window.bottom->stackedWidget()->height(), window.inner()->height());
+    // Without content beside it a height that was the whole column stays what it was.
+    Gui::click(DockWindow::button(window.bottom, 0));
+    Gui::click(DockWindow::button(window.bottom, 0));
+    QCOMPARE(remembered(window.container->saveState(), 1), window.inner()->height());
+    window.container->restoreState(nothingRemembered);
     window.addTab();
     settle();
     QVERIFY(window.content->height() >= window.inner()->height() * 3 / 4);
@@ -493,6 +500,25 @@ void tst_DockContainer::sharesTheColumnWhenTheContentComesBack()
     window.addTab();
     settle();
     QCOMPARE(window.inner()->sizes(), QList<int>({height * 3 / 4, height - height * 3 / 4}));
+}
+
+void tst_DockContainer::leavesAHiddenPaneMinimizedWhenTheContentComesBack()
+{
+    DockWindow window;
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    Gui::click(DockWindow::button(window.bottom, 0));
+    window.container->setAllDockViewVisible(false);
+    window.content->removeTab(0, 0);
+    window.bottom->setMinimized(true);
+    settle();
+    window.addTab();
+    settle();
+    const int height = window.inner()->height();
+    QCOMPARE(window.content->height(), height);
+    window.container->setAllDockViewVisible(true);
+    settle();
+    QCOMPARE(window.inner()->sizes(), QList<int>({height, 0}));
 }
 
 void tst_DockContainer::opensTheBottomPanelWhenTheContentGoes()
@@ -651,10 +677,10 @@ void tst_DockContainer::takesOnlyAnotherMainWindowOver()
     DockWindow window;
     window.container->setupMainWindow(&window);
     const QPointer<QStatusBar> bar(window.statusBar());
-    window.bottom->panel()->move(77, 3);
+    window.bottom->panel()->layout()->setContentsMargins(1, 2, 3, 4);
     window.container->setupMainWindow(&window);
     QCOMPARE(window.statusBar(), bar);
-    QCOMPARE(window.bottom->panel()->pos(), QPoint(77, 3));
+    QCOMPARE(window.bottom->panel()->layout()->contentsMargins(), QMargins(1, 2, 3, 4));
     QMainWindow other;
     window.container->setupMainWindow(&other);
     QCOMPARE(other.statusBar(), bar);
@@ -673,11 +699,16 @@ void tst_DockContainer::linesTheBarUpWithTheContent()
     window.outer()->setSizes({300, window.outer()->width() - 400, 100});
     QTRY_COMPARE(contentAt(), window.left->panel()->width() + 300);
     QTRY_COMPARE(barAt(), contentAt());
-    Gui::click(DockWindow::button(window.left, 0));
-    QTRY_COMPARE(barAt(), contentAt());
-    for (int width : {1400, 700, 1100}) {
-        window.resize(width, 500);
+    for (bool minimized : {false, true}) {
+        if (minimized)
+            Gui::click(DockWindow::button(window.left, 0));
         QTRY_COMPARE(barAt(), contentAt());
+        for (int width : {1400, 700, 1100}) {
+            const int before = contentAt();
+            window.resize(width, 500);
+            QTRY_VERIFY((contentAt() == before) == minimized);
+            QTRY_COMPARE(barAt(), contentAt());
+        }
     }
     window.bottom->panel()->move(500, 0);
     window.container->updateState();
@@ -695,6 +726,19 @@ void tst_DockContainer::linesTheBarUpWhenTheBottomPaneMoves()
     window.inner()->setSizes({height - 170, 170});
     QCOMPARE(window.bottom->panel()->mapTo(&window, QPoint()).x(),
              window.content->mapTo(&window, QPoint()).x());
+}
+
+void tst_DockContainer::letsEventsThrough()
+{
+    struct Open : DockContainer
+    {
+        using DockContainer::eventFilter;
+    };
+    Open container;
+    QMoveEvent move({0, 1}, {0, 2});
+    auto *pane = container.panelWidget(DockContainer::BottomDockArea)->stackedWidget();
+    QVERIFY(!container.eventFilter(pane, &move));
+    QVERIFY(!container.eventFilter(container.contentWidget(), &move));
 }
 
 void tst_DockContainer::savesTheOuterSplitterAndItsSizes()
@@ -726,16 +770,23 @@ void tst_DockContainer::restoresWhatItSaved()
         QVERIFY(Gui::open(&window));
         sizes = {210, window.outer()->width() - 350, 140};
         window.outer()->setSizes(sizes);
-        Gui::click(DockWindow::button(window.right, 0));
-        Gui::click(DockWindow::button(window.right, 0));
+        window.inner()->setSizes({window.inner()->height() - 170, 170});
+        for (auto *panelWidget : {window.left, window.right, window.bottom}) {
+            Gui::click(DockWindow::button(panelWidget, 0));
+            Gui::click(DockWindow::button(panelWidget, 0));
+        }
         state = window.container->saveState();
     }
     DockWindow window;
     window.addTab();
     QVERIFY(Gui::open(&window));
+    const QList<int> heights = window.inner()->sizes();
     window.container->restoreState(state);
     QCOMPARE(window.outer()->sizes(), sizes);
-    QCOMPARE(remembered(window.container->saveState(), 2), 140);
+    const QList<int> known{210, 170, 140};
+    for (int number : {0, 1, 2})
+        QCOMPARE(remembered(window.container->saveState(), number), known.at(number));
+    QCOMPARE(window.inner()->sizes(), heights);
     QCOMPARE(window.container->saveState(), state);
     window.container->restoreState(QByteArray());
     QCOMPARE(window.container->saveState(), state);

@@ -342,6 +342,11 @@ void tst_DockPanelWidget::minimizesWithAClickOnTheCurrentButton()
     QCOMPARE(minimized, QList<QVariantList>({{true}}));
     QVERIFY(host.panelWidget->isMinimized());
     QCOMPARE(host.bar->checkedId(), -1);
+    // A button that was checked for another page is unchecked first.
+    host.panelWidget->setCurrentIndex(1);
+    Gui::click(host.button(1));
+    QCOMPARE(minimized, QList<QVariantList>({{true}}));
+    QVERIFY(host.panelWidget->isMinimized());
     Gui::click(host.button(1));
     QCOMPARE(minimized, QList<QVariantList>({{true}, {false}}));
     QVERIFY(!host.panelWidget->isMinimized());
@@ -467,12 +472,18 @@ void tst_DockPanelWidget::hidesTheViewThatIsShown()
         QCOMPARE(host.panelWidget->count(), 3);
     }
     // One that nobody sees keeps its page.
-    const Host host;
-    host.add();
-    host.add();
-    host.panelWidget->setViewVisible(0, false);
-    QVERIFY(host.button(0)->isHidden());
-    QCOMPARE(host.stack->currentIndex(), 0);
+    for (bool shown : {false, true}) {
+        Host host;
+        host.add();
+        host.add();
+        if (shown)
+            QVERIFY(Gui::open(&host));
+        host.stack->setFixedWidth(shown ? 0 : 100);
+        QTRY_COMPARE(host.stack->width(), shown ? 0 : 100);
+        host.panelWidget->setViewVisible(0, false);
+        QVERIFY(host.button(0)->isHidden());
+        QCOMPARE(host.stack->currentIndex(), 0);
+    }
 }
 
 void tst_DockPanelWidget::hidesOtherViews()
