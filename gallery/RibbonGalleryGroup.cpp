@@ -6,11 +6,19 @@
 #include "RibbonGalleryItem.h"
 #include "RibbonGalleryLayout.h"
 
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace Norvane {
+
+namespace {
+
+// From here on it takes longer to show items one by one than to hide and show all that are there.
+constexpr int ManyItems = 50;
+
+} // namespace
 
 RibbonGalleryGroupPrivate::RibbonGalleryGroupPrivate()
     : iconLabel(new QLabel)
@@ -166,26 +174,39 @@ QString RibbonGalleryGroup::title() const
 bool RibbonGalleryGroup::filter(const QString &text)
 {
     Q_D(RibbonGalleryGroup);
-    bool anyMatches = false;
     QList<int> changed;
+    int shown = 0;
+    bool anyMatches = false;
     for (int i = 0; i < count(); ++i) {
         const bool matches = d->items[i]->text().contains(text);
         anyMatches = anyMatches || matches;
-        if (matches == d->items[i]->isHidden())
+        if (matches == d->items[i]->isHidden()) {
             changed.append(i);
+            shown += matches ? 1 : 0;
+        }
     }
     if (!anyMatches)
         hide();
     // Each item that is shown or hidden would have all of them laid out.
     d->itemsLayout->setEnabled(false);
     layout()->setEnabled(false);
+    // Many are laid out before they are seen: moving them costs nothing then.
+    const bool unseen =
+        shown > ManyItems && !d->groupFrame->isAncestorOf(QApplication::focusWidget());
+    if (unseen)
+        d->groupFrame->hide();
     for (const int index : std::as_const(changed))
         setItemVisible(index, d->items[index]->isHidden());
     d->itemsLayout->setEnabled(true);
     layout()->setEnabled(true);
-    if (anyMatches)
-        show();
-    return anyMatches;
+    if (!anyMatches)
+        return false;
+    d->itemsLayout->activate();
+    if (unseen)
+        d->groupFrame->show();
+    layout()->activate();
+    show();
+    return true;
 }
 
 void RibbonGalleryGroup::updateLayout()

@@ -122,6 +122,7 @@ void RibbonGalleryPopupPrivate::filter(const QString &text)
     contentFrame->layout()->setEnabled(true);
     noMatchLabel->setVisible(!anyMatches);
     updateHeight();
+    contentFrame->layout()->activate();
 }
 
 int RibbonGalleryPopupPrivate::estimate(const RibbonGalleryGroup *group) const

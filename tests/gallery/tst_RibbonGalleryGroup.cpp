@@ -41,6 +41,9 @@ private Q_SLOTS:
     void keepsItemsOfDeletedActions();
     void laysOutAgain();
     void neverTellsOfCollecting();
+    void filtersFewAndMany_data();
+    void filtersFewAndMany();
+    void keepsTheFocusWhileItFilters();
     void hasItsSheetsColours();
 };
 
@@ -426,6 +429,59 @@ void tst_RibbonGalleryGroup::neverTellsOfCollecting()
         window.group->setPosition(RibbonGalleryGroup::Position(position));
     QCOMPARE(told, 0);
     QCOMPARE(moved.count(), 0);
+}
+
+void tst_RibbonGalleryGroup::filtersFewAndMany_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("few") << 20;
+    QTest::newRow("many") << 300;
+}
+
+// From each text to each other one; the visible items stand as if there were no others.
+void tst_RibbonGalleryGroup::filtersFewAndMany()
+{
+    QFETCH(int, count);
+    Window window;
+    for (int i = 0; i < count; ++i)
+        window.add(u"Item %1"_s.arg(i));
+    QVERIFY(window.open());
+    const QStringList texts = {QString(), u"1"_s, u"none"_s, u"12"_s, u"Item"_s};
+    for (const QString &from : texts) {
+        for (const QString &to : texts) {
+            window.group->filter(from);
+            int place = 0;
+            const bool any = window.group->filter(to);
+            for (int i = 0; i < count; ++i) {
+                const bool matches = u"Item %1"_s.arg(i).contains(to);
+                QCOMPARE(window.group->item(i)->isHidden(), !matches);
+                QCOMPARE(window.group->item(i)->isVisible(), matches);
+                if (matches) {
+                    const QPoint corner(3 + place % 3 * 90, 5 + place / 3 * 60);
+                    QCOMPARE(window.place(i), QRect(corner, itemSize));
+                    ++place;
+                }
+            }
+            QCOMPARE(any, place > 0);
+            QCOMPARE(window.group->isHidden(), !any);
+            QVERIFY(!window.frame()->isHidden());
+        }
+    }
+}
+
+void tst_RibbonGalleryGroup::keepsTheFocusWhileItFilters()
+{
+    Window window;
+    for (int i = 0; i < 100; ++i)
+        window.add(u"Item %1"_s.arg(i));
+    QVERIFY(window.open());
+    window.group->item(7)->setFocus();
+    QVERIFY(window.group->item(7)->hasFocus());
+    window.group->filter(u"7"_s);
+    QVERIFY(window.group->item(7)->hasFocus());
+    window.group->filter(QString());
+    QVERIFY(window.group->item(7)->hasFocus());
+    QVERIFY(window.group->item(99)->isVisible());
 }
 
 void tst_RibbonGalleryGroup::hasItsSheetsColours()
