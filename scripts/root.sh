@@ -11,7 +11,7 @@ keyring=/usr/share/keyrings/debian-archive-keyring.gpg
 # Two roots are enough: one for what everybody runs, one that also has the heavy tools.
 packages_of() {
     case " $* " in
-    *" lint "* | *" bench "* | *" package "*) needs qt build desktop lint bench package ;;
+    *" lint "* | *" bench "* | *" docs "* | *" package "*) needs qt build desktop lint bench docs package ;;
     *) needs qt build desktop ;;
     esac | awk '{ print $1 } END { print "qt6-wayland" }'
 }

@@ -42,6 +42,9 @@ END
         bench) cat <<'END' ;;
 valgrind command valgrind
 END
+        docs) cat <<'END' ;;
+doxygen command doxygen
+END
         package) cat <<'END' ;;
 debhelper command dh
 dpkg-dev command dpkg-buildpackage

@@ -41,6 +41,7 @@ class NORVANE_EXPORT AddressBar : public QFrame
     Q_DISABLE_COPY_MOVE(AddressBar)
 
 public:
+    //! The buttons of the bar, from left to right.
     enum AddressButton {
         Backward,
         Forward,
@@ -48,6 +49,7 @@ public:
         Browse,
     };
 
+    //! Makes a bar that shows the home folder.
     explicit AddressBar(QWidget *parent = nullptr);
 
     //! Deletes the tree too if it still has no parent.

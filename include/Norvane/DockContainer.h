@@ -36,14 +36,17 @@ class NORVANE_EXPORT DockContainer : public QFrame
     Q_DISABLE_COPY_MOVE(DockContainer)
 
 public:
+    //! The places of the panels.
     enum DockArea { LeftDockArea, RightDockArea, BottomDockArea };
     Q_ENUM(DockArea)
 
+    //! Makes a container with three empty panels and an empty, hidden content.
     explicit DockContainer(QWidget *parent = nullptr);
     ~DockContainer() override;
 
     //! The panel at \a area. Any value but 0 and 2 gives the right one.
     DockPanelWidget *panelWidget(DockArea area) const;
+    //! The centre.
     DockContentWidget *contentWidget() const;
 
     /*!

@@ -43,6 +43,7 @@ class NORVANE_EXPORT DockContentWidget : public QLabel
     Q_DISABLE_COPY_MOVE(DockContentWidget)
 
 public:
+    //! Makes a content without sections.
     explicit DockContentWidget(QWidget *parent = nullptr);
     ~DockContentWidget() override;
 
@@ -69,14 +70,22 @@ public:
     */
     void removeTab(int section, int index);
 
+    //! The number of sections, with tabs or without.
     int sectionCount() const;
+    //! The title of \a section.
     QString sectionText(int section);
+    //! The section in front, or -1 if there is none.
     int currentSection() const;
+    //! The tab in front of \a section, which may be behind itself; -1 if it has no tab.
     int currentTab(int section) const;
+    //! The widget of the tab in front of \a section, or null.
     QWidget *currentWidget(int section) const;
+    //! The widget of tab \a index of \a section, or null.
     QWidget *widget(int section, int index) const;
+    //! The number of tabs in \a section.
     int tabCount(int section) const;
 
+    //! Whether \a widget is in a section.
     bool contains(QWidget *widget);
     //! The section that holds \a widget, or -1.
     int sectionOf(QWidget *widget) const;
@@ -86,25 +95,39 @@ public:
     //! Makes \a section current, then its tab \a index.
     void setCurrentTab(int section, int index);
 
+    //! Whether the user can choose tab \a index of \a section.
     bool isTabEnabled(int section, int index) const;
+    //! Lets the user choose a tab, or not, and enables its widget or disables it.
     void setTabEnabled(int section, int index, bool enabled);
+    //! Whether tab \a index of \a section is in the row of tabs.
     bool isTabVisible(int section, int index) const;
+    //! Shows or hides a tab; another one comes to the front if the one in front is hidden.
     void setTabVisible(int section, int index, bool visible);
+    //! The text on tab \a index of \a section.
     QString tabText(int section, int index);
+    //! Sets the text on tab \a index of \a section.
     void setTabText(int section, int index, const QString &text);
+    //! The tool tip of tab \a index of \a section.
     QString tabToolTip(int section, int index);
+    //! Sets the tool tip of tab \a index of \a section.
     void setTabToolTip(int section, int index, const QString &toolTip);
+    //! What setTabData() has set for the tab.
     QVariant tabData(int section, int index);
+    //! Attaches something of the application's own to tab \a index of \a section.
     void setTabData(int section, int index, const QVariant &data);
 
+    //! Whether \a section has its entry in the section bar.
     bool isSectionVisible(int section) const;
+    //! Shows or hides the entry of \a section, until another tab of it comes to the front.
     void setSectionVisible(int section, bool visible);
-    // Callers rely on the name as it is spelled.
+    //! Whether the user can choose \a section. Callers rely on the name as it is spelled.
     bool isSectionEnbaled(int section) const;
+    //! Lets the user choose \a section, or not.
     void setSectionEnabled(int section, bool enabled);
 
     //! Whether the sections, not only their bar, are visible.
     bool isSectionBarVisible() const;
+    //! Shows or hides the sections, not only their bar.
     void setSectionBarVisible(bool visible);
 
     //! Sets what is shown, centred, while there is no tab.
@@ -116,7 +139,9 @@ public:
     */
     void setAutoHide(bool autoHide);
 
+    //! What the sections ask for, not the placeholder.
     QSize sizeHint() const override;
+    //! What the sections ask for, not the placeholder.
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:

@@ -34,13 +34,17 @@ class NORVANE_EXPORT DockPanelWidget : public QObject
     Q_DISABLE_COPY_MOVE(DockPanelWidget)
 
 public:
+    //! The side of the content that a panel is on.
     enum DockPanelDirection { LeftDirection, RightDirection, BottomDirection };
     Q_ENUM(DockPanelDirection)
 
+    //! Makes a panel without pages. Its bar and its stack have no parent yet.
     explicit DockPanelWidget(DockPanelDirection direction, QWidget *parent = nullptr);
     ~DockPanelWidget() override;
 
+    //! The bar of buttons.
     QWidget *panel() const;
+    //! The stack of pages.
     QWidget *stackedWidget() const;
 
     /*!
@@ -83,11 +87,13 @@ public:
 
     //! Marks the panel as minimized or not, on its button too. Emits nothing and resizes nothing.
     void setMinimized(bool minimized);
+    //! Whether the panel is minimized to its bar.
     bool isMinimized() const;
 
 Q_SIGNALS:
     //! The user sent the panel to its bar, or brought it back.
     void signalMinimized(bool minimized);
+    //! Another page was made current, by the user or by the application.
     void signalCurrentIndexChanged(int index);
 
 protected:

@@ -52,6 +52,7 @@ class NORVANE_EXPORT NorvaneAgent : public QObject
     Q_DISABLE_COPY_MOVE(NorvaneAgent)
 
 public:
+    //! Makes the ribbon bar, and asks the application for the light colour scheme.
     explicit NorvaneAgent(QObject *parent = nullptr);
     ~NorvaneAgent() override;
 

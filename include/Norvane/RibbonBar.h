@@ -37,6 +37,7 @@ class NORVANE_EXPORT RibbonBar : public QFrame
     Q_DISABLE_COPY_MOVE(RibbonBar)
 
 public:
+    //! Makes a bar without pages.
     explicit RibbonBar(QWidget *parent = nullptr);
     ~RibbonBar() override;
 
@@ -56,7 +57,9 @@ public:
     */
     RibbonPage *addPage(const QString &title, bool temporary);
 
+    //! Whether \a page is in this bar.
     bool contains(RibbonPage *page) const;
+    //! The number of pages, hidden ones too.
     int count() const;
 
     //! The index of \a page, or -1.
@@ -89,7 +92,9 @@ public:
     //! Shows page \a index and its tab, with the bound of hidePage(). Does not make it current.
     void showPage(int index);
 
+    //! hidePage() if \a hidden is true, else showPage().
     void setPageHidden(int index, bool hidden);
+    //! showPage() if \a visible is true, else hidePage().
     void setPageVisible(int index, bool visible);
 
     //! Enables or disables the tab \a index; the page itself stays as it is.

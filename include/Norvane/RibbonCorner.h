@@ -27,6 +27,7 @@ class NORVANE_EXPORT RibbonCorner : public QFrame
     Q_DISABLE_COPY_MOVE(RibbonCorner)
 
 public:
+    //! Makes an empty corner. A ribbon bar brings its own.
     explicit RibbonCorner(QWidget *parent = nullptr);
     ~RibbonCorner() override;
 

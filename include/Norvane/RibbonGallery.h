@@ -43,6 +43,7 @@ class NORVANE_EXPORT RibbonGallery : public QWidget
     Q_DISABLE_COPY_MOVE(RibbonGallery)
 
 public:
+    //! Makes a gallery without groups.
     explicit RibbonGallery(QWidget *parent = nullptr);
     ~RibbonGallery() override;
 

@@ -32,6 +32,7 @@ class NORVANE_EXPORT RibbonGroup : public QWidget
     Q_DISABLE_COPY_MOVE(RibbonGroup)
 
 public:
+    //! Makes an empty group; RibbonPage::addGroup() makes one and adds it.
     explicit RibbonGroup(const QString &title, QWidget *parent = nullptr);
     ~RibbonGroup() override;
 

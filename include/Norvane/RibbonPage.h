@@ -27,6 +27,7 @@ class NORVANE_EXPORT RibbonPage : public QWidget
     Q_DISABLE_COPY_MOVE(RibbonPage)
 
 public:
+    //! Makes an empty page, for RibbonBar::addPage().
     explicit RibbonPage(QWidget *parent = nullptr);
     ~RibbonPage() override;
 

@@ -31,6 +31,7 @@ class NORVANE_EXPORT RibbonSubgroup : public QWidget
     Q_DISABLE_COPY_MOVE(RibbonSubgroup)
 
 public:
+    //! Makes an empty column. A group makes its own.
     explicit RibbonSubgroup(QWidget *parent = nullptr);
     ~RibbonSubgroup() override;
 

@@ -317,6 +317,23 @@ class DevTest(unittest.TestCase):
         self.assertIn("/some/root lacks", output)
         self.assertEqual(self.machine.calls("mmdebstrap"), [])
 
+    def test_makes_the_documentation_without_a_toolchain(self):
+        folder = self.checkout()
+        shutil.copytree(CHECKOUT / "docs", folder / "docs")
+        self.machine.is_debian("6.8.2")
+        self.machine.fake("doxygen", folder=self.machine.home / "packages/bin")
+        status, output = self.machine.dev("docs", checkout=folder)
+        self.assertEqual(status, 0, output)
+        [install] = [call for call in self.machine.calls("apt-get")
+                     if " install " in call and "--download-only" not in call]
+        self.assertEqual(install.split(" install ")[1], "doxygen")
+        self.assertEqual(self.machine.calls("doxygen"), ["doxygen docs/Doxyfile"])
+        # Where the pages look for them.
+        self.assertTrue((folder / "build/docs/images/ribbon.png").exists())
+
+        self.machine.fake("doxygen", "exit 1")
+        self.assertEqual(self.machine.dev("docs", checkout=folder)[0], 1)
+
     def test_tells_commands_that_it_does_not_know(self):
         self.assertEqual(self.machine.dev("nonsense")[0], 2)
         status, output = self.machine.dev("help")
