@@ -13,6 +13,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QFileSystemModel>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeView>
 
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void standsUnderTheRibbon();
     void showsWhereTheDocumentLies();
     void staysAboveTheDocument();
+    void staysWhereAFileWasOpened();
     void opensTextsAndPictures_data();
     void opensTextsAndPictures();
     void leavesOtherFilesToTheSystem_data();
@@ -145,10 +147,10 @@ void tst_FilesView::showsWhereTheDocumentLies()
     const QString b = there.write(u"b.txt"_s, "b");
     FilesWindow window(here);
     window.open({a, b});
-    QCOMPARE(window.bar->path(), there.folder());
+    QTRY_COMPARE(window.bar->path(), there.folder());
     QCOMPARE(window.model->filePath(window.tree->currentIndex()), b);
     window.clickTab(u"a.txt"_s);
-    QCOMPARE(window.bar->path(), here.folder());
+    QTRY_COMPARE(window.bar->path(), here.folder());
     QCOMPARE(window.model->filePath(window.tree->currentIndex()), a);
     QCOMPARE(window.model->filePath(window.tree->rootIndex()), here.folder());
 }
@@ -160,8 +162,8 @@ void tst_FilesView::staysAboveTheDocument()
     const QString text = files.write(u"sub/deeper/a.txt"_s, "a");
     FilesWindow window(files);
     window.open({text});
+    QTRY_COMPARE(window.model->filePath(window.tree->currentIndex()), text);
     QCOMPARE(window.bar->path(), files.folder());
-    QCOMPARE(window.model->filePath(window.tree->currentIndex()), text);
     QTRY_VERIFY(window.tree->visualRect(window.tree->currentIndex()).isValid());
 
     // The name of one folder may begin with that of the other.
@@ -169,7 +171,25 @@ void tst_FilesView::staysAboveTheDocument()
     const QString other = files.write(u"sub2/b.txt"_s, "b");
     window.bar->setPath(files.path(u"sub"_s));
     window.open({other});
-    QCOMPARE(window.bar->path(), files.path(u"sub2"_s));
+    QTRY_COMPARE(window.bar->path(), files.path(u"sub2"_s));
+}
+
+void tst_FilesView::staysWhereAFileWasOpened()
+{
+    // The other section shows the picture that it showed last before it shows the new one.
+    const Files files;
+    QVERIFY(QDir(files.folder()).mkpath(u"sub"_s));
+    const QString picture = files.writeQuarters(u"sub/b.png"_s, QSize(8, 8));
+    FilesWindow window(files);
+    window.open({files.writeQuarters(u"a.png"_s, QSize(8, 8)), files.write(u"a.txt"_s, "a")});
+    QTRY_COMPARE(window.model->filePath(window.tree->currentIndex()), files.path(u"a.txt"_s));
+    window.bar->setPath(files.path(u"sub"_s));
+    const QSignalSpy changes(window.bar, &Norvane::AddressBar::signalPathChanged);
+    window.doubleClickFile(picture);
+    QCOMPARE(window.document()->path(), picture);
+    QTRY_COMPARE(window.model->filePath(window.tree->currentIndex()), picture);
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(window.bar->path(), files.path(u"sub"_s));
 }
 
 void tst_FilesView::opensTextsAndPictures_data()
@@ -275,6 +295,8 @@ void tst_FilesView::makesATextDocument()
     QStringList left = QDir(files.folder()).entryList(QDir::Files);
     left.removeOne(u"a.txt"_s);
     QCOMPARE(left, QStringList{name});
+    // The tree goes to the document that has come to the front.
+    QCoreApplication::processEvents();
     // The next editor of a name opens nothing.
     const QModelIndex index = window.model->index(files.path(u"a.txt"_s));
     window.tree->setCurrentIndex(index);
@@ -320,7 +342,7 @@ void tst_FilesView::makesATextDocumentInTheChosenFolder()
     QCOMPARE(window.bar->path(), files.folder());
 
     // A chosen file stands for its folder.
-    QCOMPARE(window.model->filePath(window.tree->currentIndex()), made);
+    QTRY_COMPARE(window.model->filePath(window.tree->currentIndex()), made);
     QCOMPARE(window.bar->actionTriggeredPath(), made);
     window.makeNew(u"Text Document"_s, window.emptyPlace());
     QTRY_VERIFY(window.nameEditor());

@@ -43,16 +43,23 @@ void Input::moveTo(QWidget *widget, QPoint position)
     }
 }
 
-void Input::click(QWidget *widget, QPoint position)
+void Input::click(QWidget *widget, QPoint position, Qt::MouseButton button)
 {
     moveTo(widget, position);
-    post(QEvent::MouseButtonPress, widget, position, Qt::LeftButton, Qt::LeftButton);
-    post(QEvent::MouseButtonRelease, widget, position, Qt::LeftButton, Qt::NoButton);
+    post(QEvent::MouseButtonPress, widget, position, button, button);
+    post(QEvent::MouseButtonRelease, widget, position, button, Qt::NoButton);
 }
 
 void Input::click(QWidget *widget)
 {
     click(widget, widget->rect().center());
+}
+
+void Input::doubleClick(QWidget *widget, QPoint position)
+{
+    click(widget, position);
+    post(QEvent::MouseButtonDblClick, widget, position, Qt::LeftButton, Qt::LeftButton);
+    post(QEvent::MouseButtonRelease, widget, position, Qt::LeftButton, Qt::NoButton);
 }
 
 void Input::drag(QWidget *widget, QPoint from, QPoint to)

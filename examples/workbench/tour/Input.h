@@ -19,9 +19,10 @@ class Input
 {
 public:
     static void moveTo(QWidget *widget, QPoint position);
-    static void click(QWidget *widget, QPoint position);
+    static void click(QWidget *widget, QPoint position, Qt::MouseButton button = Qt::LeftButton);
     //! Clicks in the middle.
     static void click(QWidget *widget);
+    static void doubleClick(QWidget *widget, QPoint position);
     //! Draws the left button from \a from to \a to.
     static void drag(QWidget *widget, QPoint from, QPoint to);
     //! To the widget of \a window that has the focus.

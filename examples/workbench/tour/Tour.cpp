@@ -11,8 +11,10 @@
 #include "text/TextDocument.h"
 #include "text/TextEditor.h"
 #include "tour/Input.h"
+#include "views/FilesView.h"
 #include "views/FindResultsView.h"
 
+#include <Norvane/AddressBar.h>
 #include <Norvane/DockContainer.h>
 #include <Norvane/DockContentWidget.h>
 #include <Norvane/DockPanelWidget.h>
@@ -30,6 +32,7 @@
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeView>
 #include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
@@ -68,6 +71,8 @@ Tour::Tour(MainWindow *window, const QString &samples, const QStringList &paths,
     m_paths.removeIf([&](const QString &path) { return QFileInfo(path) == QFileInfo(m_samples); });
     showPaths();
     openSamples();
+    browse();
+    makeText();
     editText();
     find();
     findInAll();
@@ -133,6 +138,8 @@ void Tour::openSamples()
             const QStringList files = samples.entryList(QDir::Files);
             for (const QString &file : files)
                 QFile::copy(samples.filePath(file), copyOf(file));
+            QDir(m_folder.path()).mkdir(u"Postcards"_s);
+            QFile::copy(samples.filePath(u"Harbour.png"_s), copyOf(u"Postcards/Pier.png"_s));
             m_window->open({m_folder.path()});
         },
         [this] { return tabs()->find(copyOf(u"About.txt"_s)); });
@@ -145,6 +152,74 @@ void Tour::openSamples()
         },
         [this] { return button(u"Open"_s)->underMouse(); });
     m_player.addPicture(u"home"_s);
+}
+
+void Tour::browse()
+{
+    const auto isIn = [this](const QString &folder) { return addressBar()->path() == folder; };
+    const auto strip = [this] { return addressBar()->findChild<QLineEdit *>(); };
+    m_player.add(
+        u"opening the menu of a crumb"_s,
+        [this] {
+            const QString folder = QFileInfo(m_folder.path()).fileName();
+            auto *crumb = findVisible<QToolButton>(
+                addressBar(), [&](const QToolButton *button) { return button->text() == folder; });
+            Input::click(crumb, QPoint(crumb->width() - 8, crumb->height() / 2));
+        },
+        [] { return QApplication::activePopupWidget() != nullptr; });
+    m_player.addPicture(u"folders"_s);
+    addMenuPick(u"Postcards"_s, [this, isIn] {
+        return isIn(copyOf(u"Postcards"_s))
+            && fileTree()->model()->rowCount(fileTree()->rootIndex()) == 1;
+    });
+    m_player.add(
+        u"opening a file of the tree"_s,
+        [this] {
+            const QModelIndex index = fileTree()->model()->index(0, 0, fileTree()->rootIndex());
+            Input::doubleClick(fileTree()->viewport(), fileTree()->visualRect(index).center());
+        },
+        [this] { return document()->title() == u"Pier.png"; });
+    m_player.addPicture(u"opened-from-tree"_s);
+    m_player.add(
+        u"editing the path"_s,
+        [strip] { Input::click(strip(), QPoint(strip()->width() - 20, strip()->height() / 2)); },
+        [strip] { return strip()->hasFocus(); });
+    m_player.addPicture(u"path"_s);
+    m_player.add(
+        u"typing another path"_s,
+        [this] {
+            Input::type(m_window, m_folder.path());
+            Input::press(m_window, Qt::Key_Return);
+        },
+        [this, isIn] {
+            return isIn(m_folder.path())
+                && fileTree()->model()->rowCount(fileTree()->rootIndex()) == 8;
+        });
+}
+
+void Tour::makeText()
+{
+    const auto menu = [] { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); };
+    m_player.add(
+        u"asking for what can be done"_s,
+        [this] {
+            Input::click(fileTree()->viewport(), QPoint(40, fileTree()->viewport()->height() - 4),
+                         Qt::RightButton);
+        },
+        [menu] { return menu() != nullptr; });
+    addMenuPick(u"New"_s, [menu] { return menu() && menu()->title() == u"New"; });
+    m_player.addPicture(u"new"_s);
+    addMenuPick(u"Text Document"_s,
+                [this] { return fileTree()->viewport()->findChild<QLineEdit *>() != nullptr; });
+    m_player.addPicture(u"new-name"_s);
+    m_player.add(
+        u"naming the new text"_s,
+        [this] {
+            Input::type(m_window, u"Ferries.txt"_s);
+            Input::press(m_window, Qt::Key_Return);
+        },
+        [this] { return document()->title() == u"Ferries.txt"; });
+    addTabClick(u"About.txt"_s);
 }
 
 void Tour::editText()
@@ -498,6 +573,16 @@ QTabBar *Tour::tabBar() const
 Document *Tour::document() const
 {
     return tabs()->currentDocument();
+}
+
+Norvane::AddressBar *Tour::addressBar() const
+{
+    return m_window->findChild<Norvane::AddressBar *>();
+}
+
+QTreeView *Tour::fileTree() const
+{
+    return m_window->findChild<FilesView *>()->tree();
 }
 
 QString Tour::copyOf(const QString &file) const

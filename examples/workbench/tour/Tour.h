@@ -11,6 +11,11 @@
 class QMenu;
 class QTabBar;
 class QToolButton;
+class QTreeView;
+
+namespace Norvane {
+class AddressBar;
+}
 
 namespace Workbench {
 
@@ -40,6 +45,8 @@ Q_SIGNALS:
 private:
     void showPaths();
     void openSamples();
+    void browse();
+    void makeText();
     void editText();
     void find();
     void findInAll();
@@ -67,6 +74,8 @@ private:
     //! The tab bar of the section in front.
     QTabBar *tabBar() const;
     Document *document() const;
+    Norvane::AddressBar *addressBar() const;
+    QTreeView *fileTree() const;
     QString copyOf(const QString &file) const;
 
     MainWindow *m_window;

@@ -55,7 +55,14 @@ void Panels::setDocument(Document *document)
     m_properties->showDocument(document);
     if (!document)
         return;
-    m_files->showFile(document->path());
+    // A section that comes to the front shows another document first, whose folder is not meant.
+    QMetaObject::invokeMethod(
+        m_files,
+        [this, document] {
+            if (document == m_document)
+                m_files->showFile(document->path());
+        },
+        Qt::QueuedConnection);
     connect(document, &Document::changed, this,
             [this, document] { m_properties->showDocument(document); });
 }
