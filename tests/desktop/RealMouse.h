@@ -3,10 +3,16 @@
 
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtCore/QProcess>
+#include <QtCore/QTimer>
 #include <QtGui/QCursor>
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QWidget>
+
+#include <functional>
 
 //! The mouse and the keyboard of the X server, as a person's hands move them.
 namespace RealMouse {
@@ -72,6 +78,27 @@ inline bool startDrag(QPoint from, QPoint to)
 inline void key(const QString &name)
 {
     xdotool({QStringLiteral("key"), name});
+}
+
+/*!
+    Clicks where the mouse is, which is to open \a menu, and then acts. A press that opens a menu
+    comes back when the menu is closed, so what is done with it is done inside its event loop.
+*/
+inline void clickToOpen(QMenu *menu, const std::function<void()> &act, int button = 1)
+{
+    bool acted = false;
+    const QPointer<QMenu> guard(menu);
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (acted || !menu->isVisible() || !menu->windowHandle()->isExposed())
+            return;
+        acted = true;
+        act();
+    });
+    timer.start(10);
+    click(button);
+    QTRY_VERIFY(acted);
+    QTRY_VERIFY(!guard || !guard->isVisible());
 }
 
 } // namespace RealMouse

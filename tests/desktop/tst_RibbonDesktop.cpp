@@ -11,9 +11,7 @@
 #include <ribbon/RibbonButton.h>
 #include <ribbon/RibbonTab.h>
 
-#include <QtCore/QTimer>
 #include <QtGui/QScreen>
-#include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyle>
@@ -91,24 +89,6 @@ QColor pixel(QWidget *widget, QPoint position)
     return window->grab().toImage().pixelColor(widget->mapTo(window, position));
 }
 
-// A press that opens a menu comes back when the menu is closed, so what is done with the open menu
-// is done from inside its event loop.
-void clickToOpen(QMenu *menu, const std::function<void()> &act)
-{
-    bool acted = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        if (acted || !menu->isVisible() || !menu->windowHandle()->isExposed())
-            return;
-        acted = true;
-        act();
-    });
-    timer.start(10);
-    RealMouse::click();
-    QTRY_VERIFY(acted);
-    QTRY_VERIFY(!menu->isVisible());
-}
-
 } // namespace
 
 void tst_RibbonDesktop::hoverPaintsTheButton()
@@ -166,7 +146,7 @@ void tst_RibbonDesktop::instantMenuIsPicked()
     QVERIFY(window.open());
     QSignalSpy picked(&window.second, &QAction::triggered);
     RealMouse::move(button);
-    clickToOpen(&window.menu, [&] {
+    RealMouse::clickToOpen(&window.menu, [&] {
         RealMouse::move(&window.menu, window.menu.actionGeometry(&window.second).center());
         RealMouse::click();
     });
@@ -185,7 +165,7 @@ void tst_RibbonDesktop::splitButtonHasTwoParts()
     QTRY_COMPARE(triggered.count(), 1);
     QCOMPARE(shown.count(), 0);
     RealMouse::move(button, {button->width() / 2, 60});
-    clickToOpen(&window.menu, [] { RealMouse::key(QStringLiteral("Escape")); });
+    RealMouse::clickToOpen(&window.menu, [] { RealMouse::key(QStringLiteral("Escape")); });
     QCOMPARE(shown.count(), 1);
     QCOMPARE(triggered.count(), 1);
 }
@@ -197,7 +177,7 @@ void tst_RibbonDesktop::menuStandsOnePixelHigher()
     QVERIFY(window.open());
     RealMouse::move(button);
     int top = 0;
-    clickToOpen(&window.menu, [&] {
+    RealMouse::clickToOpen(&window.menu, [&] {
         top = window.menu.y();
         RealMouse::key(QStringLiteral("Escape"));
     });
