@@ -29,6 +29,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
@@ -164,7 +165,9 @@ void Tour::browse()
             const QString folder = QFileInfo(m_folder.path()).fileName();
             auto *crumb = findVisible<QToolButton>(
                 addressBar(), [&](const QToolButton *button) { return button->text() == folder; });
-            Input::click(crumb, QPoint(crumb->width() - 8, crumb->height() / 2));
+            const QRect arrow(crumb->width() - 16, 0, 16, crumb->height());
+            Input::click(
+                crumb, QStyle::visualRect(crumb->layoutDirection(), crumb->rect(), arrow).center());
         },
         [] { return QApplication::activePopupWidget() != nullptr; });
     m_player.addPicture(u"folders"_s);
@@ -182,7 +185,10 @@ void Tour::browse()
     m_player.addPicture(u"opened-from-tree"_s);
     m_player.add(
         u"editing the path"_s,
-        [strip] { Input::click(strip(), QPoint(strip()->width() - 20, strip()->height() / 2)); },
+        [strip] {
+            const int end = strip()->isRightToLeft() ? 20 : strip()->width() - 20;
+            Input::click(strip(), QPoint(end, strip()->height() / 2));
+        },
         [strip] { return strip()->hasFocus(); });
     m_player.addPicture(u"path"_s);
     m_player.add(
