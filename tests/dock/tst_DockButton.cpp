@@ -26,6 +26,7 @@ private Q_SLOTS:
     void takesNullIcons();
     void tellsTheViewUnderTheMouse_data();
     void tellsTheViewUnderTheMouse();
+    void tellsTheNearestViewWhileItIsDragged();
     void hasNoToolTipWithoutTexts();
 };
 
@@ -178,6 +179,22 @@ void tst_DockButton::tellsTheViewUnderTheMouse()
     Gui::moveMouse(&window, {80, 80});
     Gui::moveMouse(&button, {15, y});
     QTRY_COMPARE(button.toolTip(), text);
+}
+
+void tst_DockButton::tellsTheNearestViewWhileItIsDragged()
+{
+    QWidget window;
+    window.resize(100, 200);
+    DockButton button(Qt::Vertical, &window);
+    button.setTexts({u"one"_s, u"two"_s});
+    button.setGeometry(10, 60, 30, 57);
+    QVERIFY(Gui::open(&window));
+    Gui::press(&button, {15, 20});
+    Gui::moveMouse(&button, {15, 130});
+    QTRY_COMPARE(button.toolTip(), u"two"_s);
+    Gui::moveMouse(&button, {15, -50});
+    QTRY_COMPARE(button.toolTip(), u"one"_s);
+    Gui::release(&button, {15, -50});
 }
 
 void tst_DockButton::hasNoToolTipWithoutTexts()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void marksADraggedBottomPanel();
     void bringsAPanelBackThatWasDraggedToNothingAtOnce();
     void setsPanesCollapsible();
+    void keepsTheLeastSizeOfAPaneThatDoesNotCollapse();
     void hidesAllPanes();
     void takesAMainWindowOver();
     void takesOnlyAnotherMainWindowOver();
@@ -637,6 +638,22 @@ void tst_DockContainer::setsPanesCollapsible()
         QCOMPARE(window.inner()->isCollapsible(0), collapsible);
         QCOMPARE(window.inner()->isCollapsible(1), collapsible);
     }
+}
+
+void tst_DockContainer::keepsTheLeastSizeOfAPaneThatDoesNotCollapse()
+{
+    DockWindow window;
+    window.addTab();
+    window.container->setPanelCollapsible(false);
+    QVERIFY(Gui::open(&window));
+    const QWidget *pane = window.left->stackedWidget();
+    window.outer()->setSizes({250, window.outer()->width() - 350, 100});
+    Gui::click(DockWindow::button(window.left, 0));
+    QVERIFY(window.left->isMinimized());
+    QVERIFY(pane->width() > 0);
+    QCOMPARE(pane->width(), pane->minimumSizeHint().width());
+    Gui::click(DockWindow::button(window.left, 0));
+    QVERIFY(pane->width() >= 250);
 }
 
 void tst_DockContainer::hidesAllPanes()
