@@ -370,8 +370,8 @@ void tst_RibbonGallery::stripFollowsThePopup()
     QVERIFY(window.open());
     QCOMPARE(window.strip(), texts(3));
     QVERIFY(window.openPopup());
-    window.clickMarker(window.item(0, 3));
-    window.clickMarker(window.item(0, 1));
+    GalleryWindow::clickMarker(window.item(0, 3));
+    GalleryWindow::clickMarker(window.item(0, 1));
     QCOMPARE(window.strip(), texts(3));
     window.menu()->close();
     // Not before the event loop is reached.
@@ -457,7 +457,7 @@ void tst_RibbonGallery::placeholdersAccumulate()
         QVERIFY(!window.cells().at(i)->defaultAction()->isEnabled());
     }
     QVERIFY(window.openPopup());
-    window.clickMarker(window.item(0, 1));
+    GalleryWindow::clickMarker(window.item(0, 1));
     window.closePopup();
     QStringList expected = {u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"b"_s, u"a"_s};
     QTRY_COMPARE(window.strip().first(6), expected);
@@ -608,7 +608,7 @@ void tst_RibbonGallery::existingItemsKeepWhetherTheyCanBeCollected()
     QVERIFY(GalleryWindow::markerOf(window.item(0, 0))->isHidden());
     Gui::moveMouse(window.item(1, 0), {45, 40});
     QVERIFY(GalleryWindow::markerOf(window.item(1, 0))->isVisible());
-    window.clickMarker(window.item(1, 0));
+    GalleryWindow::clickMarker(window.item(1, 0));
     QCOMPARE(window.collected()->count(), 1);
     window.closePopup();
 
@@ -814,11 +814,11 @@ void tst_RibbonGallery::popupGetsAScrollBarByCollecting()
     QVERIFY(window.openPopup());
     const int width = window.gallery->width();
     QCOMPARE(window.popup()->size(), QSize(width, wanted));
-    window.clickMarker(window.item(0, 0));
+    GalleryWindow::clickMarker(window.item(0, 0));
     QCOMPARE(window.popup()->size(), QSize(width + 17, wanted + 50));
     QCOMPARE(window.menu()->size(), QSize(width + 19, wanted + 52));
     QCOMPARE(window.popup()->widget()->size(), QSize(width, wanted + 98));
-    window.clickMarker(window.collected()->item(0));
+    GalleryWindow::clickMarker(window.collected()->item(0));
     QCOMPARE(window.popup()->size(), QSize(width, wanted));
     QCOMPARE(window.popup()->widget()->size(), QSize(width, wanted));
     window.closePopup();
@@ -838,9 +838,9 @@ void tst_RibbonGallery::deletedActionsLeaveTheStrip()
     QSignalSpy told(window.gallery, &RibbonGallery::signalTriggered);
     Gui::click(window.item(0, 0), {45, 40});
     Gui::click(window.collected()->item(0), {45, 40});
-    window.clickMarker(window.collected()->item(0));
-    window.clickMarker(window.item(0, 2));
-    window.clickMarker(window.item(0, 0));
+    GalleryWindow::clickMarker(window.collected()->item(0));
+    GalleryWindow::clickMarker(window.item(0, 2));
+    GalleryWindow::clickMarker(window.item(0, 0));
     window.search(u"Item 3"_s);
     window.closePopup();
     QTRY_COMPARE(window.strip(), QStringList({u"Item 1"_s, u"Item 3"_s, u"-"_s}));

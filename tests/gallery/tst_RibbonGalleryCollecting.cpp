@@ -252,18 +252,18 @@ public:
         for (int i = 0; i < m_model.groups.size(); ++i) {
             if (m_window.group(i)->title() != m_model.groups.at(i).title)
                 return u"other order of groups"_s;
-            const QString difference = wrong(m_model.groups.at(i), m_window.group(i));
+            QString difference = wrong(m_model.groups.at(i), m_window.group(i));
             if (!difference.isEmpty())
                 return difference;
         }
-        const QString difference = wrong(m_model.copies, m_window.collected());
+        QString difference = wrong(m_model.copies, m_window.collected());
         if (!difference.isEmpty())
             return difference;
         if (m_window.menu()->isVisible() != m_model.open)
             return u"the popup is open or not"_s;
-        if (m_model.open && m_window.popup()->computedHeight(false) != m_model.height())
-            return u"height %1, not %2"_s.arg(m_window.popup()->computedHeight(false))
-                .arg(m_model.height());
+        const int height = m_window.popup()->computedHeight(false);
+        if (m_model.open && height != m_model.height())
+            return u"height %1, not %2"_s.arg(height).arg(m_model.height());
         if (m_window.noMatchLabel()->isHidden() == m_model.foundNothing)
             return u"the label"_s;
         if (m_window.strip() != m_model.strip)
@@ -311,7 +311,7 @@ private:
 
     void click(const RibbonGalleryItem *item)
     {
-        m_window.clickMarker(item);
+        GalleryWindow::clickMarker(item);
         Gui::moveMouse(m_window.popup(), {0, 0});
     }
 
@@ -406,9 +406,7 @@ private:
     {
         const QString name = group->title();
         if (group->count() != model.items.size())
-            return u"%1 has %2 items, not %3"_s.arg(name)
-                .arg(group->count())
-                .arg(model.items.size());
+            return u"%1 has %2 items"_s.arg(name).arg(group->count());
         if (!model.items.isEmpty() && group->isHidden() != model.hidden)
             return u"%1 is hidden or not"_s.arg(name);
         for (int i = 0; i < group->count(); ++i) {

@@ -190,7 +190,7 @@ void tst_RibbonGalleryPopup::collectedGroupCannotBeMoved()
     QVERIFY(window.openPopup());
     QCOMPARE(window.collected()->title(), u"collected"_s);
     QVERIFY(window.collected()->isHidden());
-    window.clickMarker(window.item(0, 1));
+    GalleryWindow::clickMarker(window.item(0, 1));
     QVERIFY(window.collected()->isVisible());
     QVERIFY(GalleryWindow::toTopOf(window.collected())->isHidden());
     QVERIFY(GalleryWindow::toBottomOf(window.collected())->isHidden());
@@ -440,10 +440,10 @@ void tst_RibbonGalleryPopup::tellsItsHeight()
     QCOMPARE(heights(told), QList<int>(4, searchHeight + neededHeight(7)));
     window.search(QString());
     told.clear();
-    window.clickMarker(window.item(0, 0));
+    GalleryWindow::clickMarker(window.item(0, 0));
     QCOMPARE(heights(told), QList<int>{all + 98});
     told.clear();
-    window.clickMarker(window.item(0, 0));
+    GalleryWindow::clickMarker(window.item(0, 0));
     QCOMPARE(told.constLast().constFirst().toInt(), all);
     told.clear();
     window.closePopup();
@@ -774,7 +774,7 @@ void tst_RibbonGalleryPopup::collectsACopy()
     window.gallery->setActionSize({70, 50});
     QVERIFY(window.openPopup());
     QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
-    window.clickMarker(window.item(0, 1));
+    GalleryWindow::clickMarker(window.item(0, 1));
     QCOMPARE(window.collected()->count(), 1);
     QVERIFY(window.collected()->isVisible());
     const RibbonGalleryItem *copy = window.collected()->item(0);
@@ -825,13 +825,13 @@ void tst_RibbonGalleryPopup::uncollectsTheCopyOfAnItem()
     QVERIFY(window.openPopup());
     QCOMPARE(GalleryWindow::visibleTexts(window.collected()), texts(3));
     const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
-    window.clickMarker(window.item(0, 1));
+    GalleryWindow::clickMarker(window.item(0, 1));
     QVERIFY(!copy);
     QCOMPARE(GalleryWindow::visibleTexts(window.collected()),
              QStringList({u"Item 0"_s, u"Item 2"_s}));
     QVERIFY(!window.item(0, 1)->isCollected());
-    window.clickMarker(window.item(0, 0));
-    window.clickMarker(window.item(0, 2));
+    GalleryWindow::clickMarker(window.item(0, 0));
+    GalleryWindow::clickMarker(window.item(0, 2));
     QCOMPARE(window.collected()->count(), 0);
     QVERIFY(window.collected()->isHidden());
     QCOMPARE(window.popup()->height(), searchHeight + 98);
@@ -850,7 +850,7 @@ void tst_RibbonGalleryPopup::uncollectsByTheCopy()
     QSignalSpy other(window.item(0, 0), &RibbonGalleryItem::signalCollected);
     QSignalSpy heightTold(window.popup(), &RibbonGalleryPopup::signalHeightChanged);
     const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
-    window.clickMarker(copy);
+    GalleryWindow::clickMarker(copy);
     // For the copy that is gone, and for the item that is not collected any more.
     QCOMPARE(heights(heightTold), QList<int>(2, searchHeight + 98 + 98));
     QVERIFY(!copy);
@@ -860,7 +860,7 @@ void tst_RibbonGalleryPopup::uncollectsByTheCopy()
     QCOMPARE(told.count(), 1);
     QCOMPARE(other.count(), 0);
     QVERIFY(window.menu()->isVisible());
-    window.clickMarker(window.collected()->item(0));
+    GalleryWindow::clickMarker(window.collected()->item(0));
     QCOMPARE(window.collected()->count(), 0);
     QVERIFY(window.collected()->isHidden());
     QCOMPARE(window.popup()->height(), searchHeight + 98);
@@ -878,11 +878,11 @@ void tst_RibbonGalleryPopup::uncollectsAnActionInSeveralGroups()
     QVERIFY(window.open());
     QVERIFY(window.openPopup());
     for (const auto &[group, item] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 0)})
-        window.clickMarker(window.item(group, item));
+        GalleryWindow::clickMarker(window.item(group, item));
     QCOMPARE(window.collected()->count(), 3);
     // One copy for the click and one for the first item of each group; the second item of the
     // first group stays collected without a copy.
-    window.clickMarker(window.collected()->item(0));
+    GalleryWindow::clickMarker(window.collected()->item(0));
     QCOMPARE(window.collected()->count(), 0);
     QVERIFY(!window.item(0, 0)->isCollected());
     QVERIFY(window.item(0, 1)->isCollected());
@@ -899,11 +899,11 @@ void tst_RibbonGalleryPopup::collectsWhileItIsSearched()
     QVERIFY(window.openPopup());
     window.search(u"b"_s);
     QVERIFY(window.collected()->isHidden());
-    window.clickMarker(window.item(0, 2));
+    GalleryWindow::clickMarker(window.item(0, 2));
     QVERIFY(window.collected()->isVisible());
     QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList(u"ab"_s));
     QCOMPARE(window.popup()->height(), searchHeight + 98 + 98);
-    window.clickMarker(window.collected()->item(1));
+    GalleryWindow::clickMarker(window.collected()->item(1));
     QCOMPARE(window.collected()->count(), 1);
     // Where nothing that matches is left, the hidden items keep the group's place.
     QVERIFY(window.collected()->isVisible());
