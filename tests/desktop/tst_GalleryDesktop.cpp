@@ -287,11 +287,10 @@ void tst_GalleryDesktop::wheelScrolls()
 void tst_GalleryDesktop::popupEndsAboveTheScreensBottom()
 {
     Window window;
-    QVERIFY(window.start());
     const int screenHeight = QGuiApplication::primaryScreen()->geometry().height();
     window.move(50, screenHeight - 310);
-    QTRY_VERIFY(window.gallery->mapToGlobal(QPoint()).y() > screenHeight - 310);
-    QTRY_COMPARE(window.windowHandle()->mapToGlobal(QPoint()), window.mapToGlobal(QPoint()));
+    QVERIFY(window.start());
+    QVERIFY(window.gallery->mapToGlobal(QPoint()).y() > screenHeight - 310);
     window.openByMouse();
     const int room = screenHeight - 30 - window.gallery->mapToGlobal(QPoint()).y();
     QVERIFY(room < 32 + 98 + 74 + 98);
