@@ -192,7 +192,7 @@ void AddressTreePrivate::rename()
         return;
     const QModelIndex index = model->index(q->targetPath());
     // The view complains about an entry that may not be renamed, or is being renamed.
-    if (index.flags().testFlag(Qt::ItemIsEditable) && q->state() != QAbstractItemView::EditingState)
+    if (index.flags().testFlag(Qt::ItemIsEditable) && q->state() != AddressTree::EditingState)
         q->edit(index);
 }
 

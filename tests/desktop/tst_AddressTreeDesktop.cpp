@@ -51,7 +51,10 @@ public:
     bool open()
     {
         show();
-        return QTest::qWaitForWindowActive(this) && settle();
+        // A window stands elsewhere once it has a frame.
+        return QTest::qWaitForWindowActive(this)
+            && QTest::qWaitFor([this] { return windowHandle()->frameMargins().top() > 0; })
+            && settle();
     }
 
     //! Waits until it shows what is in the folder.
