@@ -31,6 +31,7 @@ private Q_SLOTS:
     void tellsOfTheLastTab();
     void tellsOfTheLastTabThatIsDeleted();
     void changesSectionsAndTabs();
+    void tellsOfATabInAnotherSectionOnce();
     void goesToASectionWithoutTabs();
     void tellsAgainThatThereIsNoTab();
     void answersForItsTabs();
@@ -255,6 +256,21 @@ void tst_DockContentWidget::changesSectionsAndTabs()
     host.content->setCurrentTab(0, 99);
     QCOMPARE(host.content->currentSection(), 0);
     QCOMPARE(host.content->currentTab(0), 1);
+}
+
+void tst_DockContentWidget::tellsOfATabInAnotherSectionOnce()
+{
+    Host host;
+    for (int section : {0, 0, 1})
+        host.add(section);
+    QVERIFY(Gui::open(&host));
+    host.content->setCurrentTab(1, 0);
+    host.emitted();
+    host.tabs(0)->setCurrentIndex(1);
+    QCOMPARE(host.emitted(), QList<Signal>({{u"tab"_s, {0, 1}}}));
+    QTabBar *sectionBar = host.sections()->tabBar();
+    Gui::click(sectionBar, sectionBar->tabRect(0).center());
+    QCOMPARE(host.emitted(), QList<Signal>({{u"section"_s, {0}}}));
 }
 
 void tst_DockContentWidget::goesToASectionWithoutTabs()
