@@ -8,6 +8,7 @@
 #include <QtCore/QDir>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTreeView>
@@ -39,7 +40,7 @@ int main(int argc, char **argv)
     // Files with these suffixes are opened here, others by the system.
     for (const char *suffix : {"txt", "md", "cpp", "h", "cmake"})
         address->addSuffix(suffix);
-    QObject::connect(address, &Norvane::AddressBar::signalFileOpen, text,
+    QObject::connect(address, &Norvane::AddressBar::signalFileOpen, &window,
                      [text, &window](const QString &path) {
                          QFile file(path);
                          if (file.open(QIODevice::ReadOnly)) {
@@ -53,7 +54,8 @@ int main(int argc, char **argv)
         const QFileInfo place(address->actionTriggeredPath());
         const QDir folder(place.isDir() ? place.filePath() : place.path());
         QFile file(folder.filePath("New Text.txt"));
-        file.open(QIODevice::NewOnly);
+        if (!file.open(QIODevice::NewOnly))
+            QMessageBox::warning(address, "New Text", file.errorString());
     });
     address->addNewAction(&newText);
 

@@ -35,8 +35,8 @@ protected:
     }
 
 private:
-    QColor m_top = "#3b5b92";
-    QColor m_bottom = "#f3b27a";
+    QColor m_top = 0x3b5b92;
+    QColor m_bottom = 0xf3b27a;
 };
 
 // Drawn large; the gallery scales it down to what the screen shows.
@@ -72,16 +72,16 @@ int main(int argc, char **argv)
                          [=] { canvas->setColors(top, bottom); });
         gallery->addItem(group, action);
     };
-    add("Sky", "Dawn", "#3b5b92", "#f3b27a");
-    add("Sky", "Noon", "#2f80d0", "#bfe3f7");
-    add("Sky", "Dusk", "#2b2350", "#d76b6b");
-    add("Sky", "Night", "#060b1e", "#29406f");
-    add("Land", "Meadow", "#a8d672", "#3c7a3b");
-    add("Land", "Desert", "#f6dfa4", "#c47f3d");
-    add("Land", "Forest", "#5c8f5e", "#17352a");
-    add("Water", "Lagoon", "#9fe3dc", "#11839a");
-    add("Water", "Deep Sea", "#1b5f8f", "#04182e");
-    add("Water", "Ice", "#ffffff", "#a9cfe6");
+    add("Sky", "Dawn", 0x3b5b92, 0xf3b27a);
+    add("Sky", "Noon", 0x2f80d0, 0xbfe3f7);
+    add("Sky", "Dusk", 0x2b2350, 0xd76b6b);
+    add("Sky", "Night", 0x060b1e, 0x29406f);
+    add("Land", "Meadow", 0xa8d672, 0x3c7a3b);
+    add("Land", "Desert", 0xf6dfa4, 0xc47f3d);
+    add("Land", "Forest", 0x5c8f5e, 0x17352a);
+    add("Water", "Lagoon", 0x9fe3dc, 0x11839a);
+    add("Water", "Deep Sea", 0x1b5f8f, 0x04182e);
+    add("Water", "Ice", 0xffffff, 0xa9cfe6);
     ribbon->addPage("Home", false)->addGroup("Colours")->addWidget(gallery);
 
     window.resize(760, 460);
