@@ -71,6 +71,8 @@ inline bool startDrag(QPoint from, QPoint to)
     arguments << QStringLiteral("mousedown") << QStringLiteral("1") << pause;
     for (int step = 1; step <= 8; ++step)
         moveTo(from + (to - from) * step / 8);
+    // Who lets go before the window below could answer drops nothing.
+    arguments << QStringLiteral("sleep") << QStringLiteral("0.5");
     arguments << QStringLiteral("mouseup") << QStringLiteral("1");
     return QProcess::startDetached(QStringLiteral("xdotool"), arguments);
 }
