@@ -29,7 +29,7 @@ QImage SnippetPreview::draw(const QString &text, QSize size)
     painter.setPen(QColor(35, 75, 120));
     painter.drawText(
         sheet.adjusted(3, 2, -2, -1),
-        start.size() == 1 ? int(Qt::AlignCenter) : int(Qt::AlignLeft | Qt::TextWordWrap), start);
+        start.size() == 1 ? int(Qt::AlignCenter) : Qt::AlignLeft | Qt::TextWordWrap, start);
     return preview;
 }
 
