@@ -27,9 +27,9 @@ QImage SnippetPreview::draw(const QString &text, QSize size)
     font.setPixelSize(start.size() == 1 ? 22 : 7);
     painter.setFont(font);
     painter.setPen(QColor(35, 75, 120));
-    painter.drawText(
-        sheet.adjusted(3, 2, -2, -1),
-        start.size() == 1 ? int(Qt::AlignCenter) : Qt::AlignLeft | Qt::TextWordWrap, start);
+    painter.drawText(sheet.adjusted(3, 2, -2, -1),
+                     start.size() == 1 ? int(Qt::AlignCenter) : Qt::AlignLeft | Qt::TextWordWrap,
+                     start);
     return preview;
 }
 
