@@ -88,8 +88,8 @@ QSize RibbonButtonPrivate::textSize() const
     const QFont &font = q_func()->font();
     if (!measured || measured->text != text || measured->font != font
         || measured->large != isLarge()) {
-        measured = std::make_unique<MeasuredText>(
-            MeasuredText{text, font, isLarge(), measureText(text)});
+        measured =
+            std::make_unique<MeasuredText>(MeasuredText{text, font, isLarge(), measureText(text)});
     }
     return measured->size;
 }
