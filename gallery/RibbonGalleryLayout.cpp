@@ -35,6 +35,8 @@ int RibbonGalleryLayoutPrivate::flow(const QRect &rect, bool place) const
 {
     Q_Q(const RibbonGalleryLayout);
     const QRect area = rect.marginsRemoved(q->contentsMargins());
+    const QWidget *host = q->parentWidget();
+    const Qt::LayoutDirection direction = host ? host->layoutDirection() : Qt::LeftToRight;
     int x = area.left();
     int y = area.top();
     int lineHeight = 0;
@@ -51,7 +53,7 @@ int RibbonGalleryLayoutPrivate::flow(const QRect &rect, bool place) const
             lineHeight = 0;
         }
         if (place)
-            item->setGeometry({{x, y}, size});
+            item->setGeometry(QStyle::visualRect(direction, area, {{x, y}, size}));
         x = nextX;
         lineHeight = qMax(lineHeight, size.height());
     }

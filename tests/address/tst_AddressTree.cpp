@@ -1206,12 +1206,14 @@ void tst_AddressTree::tellsMoveFromCopyByTheDrive_data()
 {
     QTest::addColumn<QStringList>("sources");
     QTest::addColumn<bool>("moved");
-    QTest::newRow("same") << QStringList{u"/tmp/x"_s} << true;
-    QTest::newRow("alike") << QStringList{u"/tmz/x"_s} << true;
-    QTest::newRow("another") << QStringList{u"/etc/x"_s} << false;
-    QTest::newRow("another case") << QStringList{u"/Tmp/x"_s} << false;
-    QTest::newRow("the first counts") << QStringList{u"/etc/x"_s, u"/tmp/x"_s} << false;
-    QTest::newRow("the others do not") << QStringList{u"/tmp/x"_s, u"/etc/x"_s} << true;
+    QTest::newRow("same") << QStringList{u"/tmp/norvane-none"_s} << true;
+    QTest::newRow("alike") << QStringList{u"/tmz/norvane-none"_s} << true;
+    QTest::newRow("another") << QStringList{u"/etc/norvane-none"_s} << false;
+    QTest::newRow("another case") << QStringList{u"/Tmp/norvane-none"_s} << false;
+    QTest::newRow("the first counts")
+        << QStringList{u"/etc/norvane-none"_s, u"/tmp/norvane-none"_s} << false;
+    QTest::newRow("the others do not")
+        << QStringList{u"/tmp/norvane-none"_s, u"/etc/norvane-none"_s} << true;
     QTest::newRow("none") << QStringList() << false;
     QTest::newRow("short") << QStringList{u"/t"_s} << false;
 }

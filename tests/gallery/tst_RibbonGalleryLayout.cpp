@@ -32,7 +32,7 @@ private Q_SLOTS:
     void givesItsItemsAway();
     void deletesItsItems();
     void ownsNoWidgets();
-    void isNotMirrored();
+    void isMirrored();
     void laysOutAWindow();
     void takesItemsWithoutWidgets();
 };
@@ -534,7 +534,7 @@ void tst_RibbonGalleryLayout::ownsNoWidgets()
     QCOMPARE(layout.count(), 0);
 }
 
-void tst_RibbonGalleryLayout::isNotMirrored()
+void tst_RibbonGalleryLayout::isMirrored()
 {
     QWidget host;
     host.setLayoutDirection(Qt::RightToLeft);
@@ -542,7 +542,10 @@ void tst_RibbonGalleryLayout::isNotMirrored()
     auto *box = new Box({{40, 20}, {10, 10}, false}, &host);
     layout->addWidget(box);
     layout->setGeometry({0, 0, 400, 100});
-    QCOMPARE(box->geometry(), QRect(0, 0, 40, 20));
+    QCOMPARE(box->geometry(), QRect(360, 0, 40, 20));
+    layout->setContentsMargins(3, 0, 7, 0);
+    layout->setGeometry({10, 0, 400, 100});
+    QCOMPARE(box->geometry(), QRect(10 + 400 - 7 - 40, 0, 40, 20));
 }
 
 void tst_RibbonGalleryLayout::laysOutAWindow()

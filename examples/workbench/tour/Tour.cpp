@@ -438,8 +438,9 @@ void Tour::closeUnsaved()
         u"closing what is not saved"_s,
         [this] {
             const QRect tab = tabBar()->tabRect(tabBar()->currentIndex());
-            const QPoint button(tab.right() - 11, tab.center().y());
-            Input::click(tabBar(), QStyle::visualPos(tabBar()->layoutDirection(), tab, button));
+            const QRect button(tab.right() - 12, tab.top(), 3, tab.height());
+            Input::click(tabBar(),
+                         QStyle::visualRect(tabBar()->layoutDirection(), tab, button).center());
         },
         [box] { return box() != nullptr; });
     m_player.addPicture(u"close-asks"_s);
@@ -555,7 +556,7 @@ QStringList Tour::items(const QWidget *gallery)
     }
     const auto place = [gallery](const QToolButton *item) {
         const QPoint corner = item->mapTo(gallery, QPoint());
-        return std::pair(corner.y(), corner.x());
+        return std::pair(corner.y(), gallery->isRightToLeft() ? -corner.x() : corner.x());
     };
     std::sort(items.begin(), items.end(),
               [&](const QToolButton *a, const QToolButton *b) { return place(a) < place(b); });
