@@ -6,10 +6,8 @@
 #include <QtWidgets/QDialog>
 
 class NorvaneAgent;
-class QAbstractButton;
 class QCheckBox;
 class QFontComboBox;
-class QLabel;
 class QPlainTextEdit;
 class QSpinBox;
 class QStackedWidget;
