@@ -4,6 +4,7 @@
 #include "GalleryWindow.h"
 #include "TestCase.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtGui/QScreen>
 #include <QtTest/QSignalSpy>
@@ -20,6 +21,7 @@ class tst_RibbonGallery : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void hasOneSignal();
     void standsInARibbon();
     void hasItsSheetsColours();
 
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void popupOpensAtItsTop();
     void popupFollowsTheSearch();
     void popupGetsAScrollBarByCollecting();
+    void menuHasRoomForGroupsThatStayHidden();
 
     void deletedActionsLeaveTheStrip();
     void actionAtTheSameAddressIsAnotherOne();
@@ -105,6 +108,18 @@ QPoint cornerOf(const QWidget *widget)
 
 } // namespace
 
+void tst_RibbonGallery::hasOneSignal()
+{
+    const QMetaObject &meta = RibbonGallery::staticMetaObject;
+    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + 1);
+    const QMetaMethod method = meta.method(meta.methodOffset());
+    QCOMPARE(method.methodSignature(), "signalTriggered(QAction*)");
+    QCOMPARE(method.methodType(), QMetaMethod::Signal);
+    QCOMPARE(method.parameterNames(), QByteArrayList{"action"});
+}
+
 void tst_RibbonGallery::standsInARibbon()
 {
     GalleryWindow window;
@@ -130,6 +145,13 @@ void tst_RibbonGallery::standsInARibbon()
     QCOMPARE(window.popupButton()->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(window.itemsFrame()->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(window.itemsFrame()->layout()->alignment(), Qt::AlignLeft);
+    const auto *row = qobject_cast<QHBoxLayout *>(window.gallery->layout());
+    QVERIFY(row);
+    QCOMPARE(row->count(), 2);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(row->stretch(i), 0);
+        QCOMPARE(row->itemAt(i)->alignment(), Qt::Alignment());
+    }
     QCOMPARE(window.menu()->parentWidget(), window.popupButton());
     QVERIFY(window.menu()->isHidden());
     QCOMPARE(window.menu()->actions().size(), 1);
@@ -455,6 +477,7 @@ void tst_RibbonGallery::placeholdersAccumulate()
     for (int i = 2; i < 6; ++i) {
         QCOMPARE(window.cells().at(i)->size(), QSize(cellWidth, cellHeight));
         QVERIFY(!window.cells().at(i)->defaultAction()->isEnabled());
+        QVERIFY(!window.cells().at(i)->defaultAction()->parent());
     }
     QVERIFY(window.openPopup());
     GalleryWindow::clickMarker(window.item(0, 1));
@@ -821,6 +844,29 @@ void tst_RibbonGallery::popupGetsAScrollBarByCollecting()
     GalleryWindow::clickMarker(window.collected()->item(0));
     QCOMPARE(window.popup()->size(), QSize(width, wanted));
     QCOMPARE(window.popup()->widget()->size(), QSize(width, wanted));
+    window.closePopup();
+}
+
+// The menu gets its height before anybody knows what is shown, and keeps it.
+void tst_RibbonGallery::menuHasRoomForGroupsThatStayHidden()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(1));
+    window.add(u"Empty"_s, {});
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QCOMPARE(window.menu()->height(), 32 + 98 + 98 + 2);
+    window.search(u"I"_s);
+    window.search(QString());
+    QVERIFY(window.group(1)->isHidden());
+    QCOMPARE(window.menu()->height(), 32 + 98 + 2);
+    window.closePopup();
+    QVERIFY(window.openPopup());
+    QVERIFY(window.group(1)->isHidden());
+    QCOMPARE(window.popup()->size(), QSize(window.gallery->width(), 32 + 98));
+    QCOMPARE(window.menu()->size(), QSize(window.gallery->width() + 2, 32 + 98 + 98 + 2));
+    window.search(u"I"_s);
+    QCOMPARE(window.menu()->height(), 32 + 98 + 2);
     window.closePopup();
 }
 

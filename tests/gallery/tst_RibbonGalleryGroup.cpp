@@ -8,9 +8,12 @@
 #include <gallery/RibbonGalleryItem.h>
 #include <style/StyleSheet.h>
 
+#include <QtCore/QMetaEnum>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtGui/QAction>
 #include <QtTest/QSignalSpy>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
@@ -22,6 +25,8 @@ class tst_RibbonGalleryGroup : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void hasTwoSignals();
+    void numbersItsPositions();
     void hasATitle();
     void withoutAnIconTheTitleStartsAtTheMargin();
     void anIconStandsBeforeTheTitle();
@@ -108,6 +113,32 @@ QRect cell(int column, int row)
 
 } // namespace
 
+void tst_RibbonGalleryGroup::hasTwoSignals()
+{
+    const QMetaObject &meta = RibbonGalleryGroup::staticMetaObject;
+    QCOMPARE(meta.superClass(), &QFrame::staticMetaObject);
+    const QByteArrayList names{"signalCollect", "signalPositionChange"};
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + names.size());
+    for (int i = 0; i < names.size(); ++i) {
+        const QMetaMethod method = meta.method(meta.methodOffset() + i);
+        QCOMPARE(method.name(), names.at(i));
+        QCOMPARE(method.methodType(), QMetaMethod::Signal);
+    }
+    QCOMPARE(meta.method(meta.methodOffset()).parameterNames(),
+             (QByteArrayList{"item", "collected"}));
+}
+
+void tst_RibbonGalleryGroup::numbersItsPositions()
+{
+    const auto positions = QMetaEnum::fromType<RibbonGalleryGroup::Position>();
+    QCOMPARE(positions.keyCount(), 4);
+    const QByteArrayList names{"Fixed", "Top", "Middle", "Bottom"};
+    for (int i = 0; i < names.size(); ++i) {
+        QCOMPARE(positions.key(i), names.at(i));
+        QCOMPARE(positions.value(i), i);
+    }
+}
+
 void tst_RibbonGalleryGroup::hasATitle()
 {
     for (const QString &title : {u"Tone"_s, QString(), QString(5000, u'x')}) {
@@ -140,6 +171,17 @@ void tst_RibbonGalleryGroup::anIconStandsBeforeTheTitle()
              icon.pixmap(QSize(16, 16), window.devicePixelRatio()).toImage());
     QCOMPARE(window.iconLabel()->x(), 4);
     QCOMPARE(window.titleLabel()->x(), 4 + 16);
+
+    // Of an icon with several pictures it is the one of a button that is not checked.
+    QIcon several;
+    for (const auto &[state, colour] :
+         {std::pair(QIcon::Off, Qt::blue), std::pair(QIcon::On, Qt::red)}) {
+        QPixmap picture(16, 16);
+        picture.fill(colour);
+        several.addPixmap(picture, QIcon::Normal, state);
+    }
+    const Window other(u"Tone"_s, several);
+    QCOMPARE(other.iconLabel()->pixmap().toImage().pixelColor(8, 8), QColor(Qt::blue));
 }
 
 void tst_RibbonGalleryGroup::titleTakesNoRoomOfTheButtons()
@@ -155,6 +197,11 @@ void tst_RibbonGalleryGroup::titleTakesNoRoomOfTheButtons()
     QCOMPARE(window.titleLabel()->width(), window.titleLabel()->sizeHint().width());
     QCOMPARE(pictureOf(window.toTop()->icon()), pictureOf(QIcon(u":/res/toTop.svg"_s)));
     QCOMPARE(pictureOf(window.toBottom()->icon()), pictureOf(QIcon(u":/res/toBottom.svg"_s)));
+    const auto *row = qobject_cast<QHBoxLayout *>(window.bar()->layout());
+    QVERIFY(row);
+    QCOMPARE(row->count(), 5);
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(row->stretch(i), i == 2 ? 1 : 0);
     QCOMPARE(window.toTop()->iconSize(), QSize(16, 16));
     QCOMPARE(window.toBottom()->iconSize(), QSize(16, 16));
     // Of a lone button nothing is kept free for the other.

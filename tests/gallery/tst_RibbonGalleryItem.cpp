@@ -7,6 +7,7 @@
 #include <gallery/RibbonGalleryItem.h>
 #include <style/StyleSheet.h>
 
+#include <QtCore/QMetaMethod>
 #include <QtGui/QAction>
 #include <QtGui/QPainter>
 #include <QtTest/QSignalSpy>
@@ -19,6 +20,7 @@ class tst_RibbonGalleryItem : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void hasOneSignal();
     void showsItsAction();
     void triggersItsAction();
     void hidesItsMarkerAtFirst();
@@ -34,7 +36,9 @@ private Q_SLOTS:
     void mayBeDeletedByItsSignal();
     void lastsWithoutItsAction();
     void hasItsSheetsColours();
+    void hasItsSheetsTextColours();
     void hasItsSheetsMarker();
+    void hasItsSheetsPressedMarker();
     void takesItsSizeFromTheSheetsModes_data();
     void takesItsSizeFromTheSheetsModes();
     void followsAChangedSheet();
@@ -89,6 +93,17 @@ QList<bool> told(const QSignalSpy &spy)
 }
 
 } // namespace
+
+void tst_RibbonGalleryItem::hasOneSignal()
+{
+    const QMetaObject &meta = RibbonGalleryItem::staticMetaObject;
+    QVERIFY(meta.inherits(&QToolButton::staticMetaObject));
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + 1);
+    const QMetaMethod method = meta.method(meta.methodOffset());
+    QCOMPARE(method.methodSignature(), "signalCollected(bool)");
+    QCOMPARE(method.methodType(), QMetaMethod::Signal);
+    QCOMPARE(method.parameterNames(), QByteArrayList{"collect"});
+}
 
 void tst_RibbonGalleryItem::showsItsAction()
 {
@@ -347,6 +362,30 @@ void tst_RibbonGalleryItem::hasItsSheetsColours()
     QCOMPARE(Gui::pixel(&window, edge), backdrop);
 }
 
+void tst_RibbonGalleryItem::hasItsSheetsTextColours()
+{
+    // Blocks that fill their cells, so that some pixels have nothing but the text's colour.
+    QAction action(QString(3, QChar(0x2588)));
+    Window window(&action);
+    QVERIFY(window.open());
+    const auto has = [&](const QColor &colour) {
+        const QImage picture = Gui::picture(&window);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y) == colour)
+                    return true;
+            }
+        }
+        return false;
+    };
+    const QColor disabled(107, 118, 125);
+    QVERIFY(has(Qt::black));
+    QVERIFY(!has(disabled));
+    action.setEnabled(false);
+    QVERIFY(has(disabled));
+    QVERIFY(!has(Qt::black));
+}
+
 void tst_RibbonGalleryItem::hasItsSheetsMarker()
 {
     QAction action;
@@ -367,6 +406,29 @@ void tst_RibbonGalleryItem::hasItsSheetsMarker()
         window.item->pos() + QPoint(1, 1),
         QIcon(u":/res/collected.svg"_s).pixmap(QSize(16, 16), window.devicePixelRatio()));
     QCOMPARE(Gui::picture(&window), expected);
+}
+
+void tst_RibbonGalleryItem::hasItsSheetsPressedMarker()
+{
+    QAction action;
+    Window window(&action);
+    window.item->setCollectEnabled(true);
+    QVERIFY(window.open());
+    const QColor backdrop = Gui::pixel(&window, {5, 5});
+    // The marker's edge and what is inside it, away from the corners, which are round.
+    const QPoint edge = window.item->pos() + QPoint(9, 0);
+    const QPoint inside = window.item->pos() + QPoint(2, 2);
+    Gui::moveMouse(window.item, {9, 9});
+    QCOMPARE(window.marker()->geometry(), QRect(0, 0, 18, 18));
+    QCOMPARE(Gui::pixel(&window, inside), backdrop);
+    Gui::press(window.item, {9, 9});
+    QCOMPARE(Gui::pixel(&window, edge), QColor(125, 125, 125));
+    QCOMPARE(Gui::pixel(&window, inside), QColor(217, 217, 217));
+    // Outside the marker nothing is pressed.
+    QCOMPARE(Gui::pixel(&window, window.item->pos() + QPoint(45, 20)), backdrop);
+    Gui::release(window.item, {9, 9});
+    QVERIFY(window.item->isCollected());
+    QCOMPARE(Gui::pixel(&window, inside), backdrop);
 }
 
 void tst_RibbonGalleryItem::takesItsSizeFromTheSheetsModes_data()

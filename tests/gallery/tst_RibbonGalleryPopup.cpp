@@ -4,10 +4,13 @@
 #include "GalleryWindow.h"
 #include "TestCase.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
+
+#include <functional>
 
 using namespace Norvane;
 using namespace Qt::StringLiterals;
@@ -17,6 +20,7 @@ class tst_RibbonGalleryPopup : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void hasThreeSignals();
     void hasASearchRow();
     void isScrolledVertically();
     void standsItsPartsInAColumn();
@@ -29,6 +33,7 @@ private Q_SLOTS:
     void groupsKnowWhereTheyStand();
     void groupsAreMoved();
     void groupMovesLikeTheModel();
+    void groupThatIsMovedElsewhereIsLeftOut();
 
     void estimatesItsHeight_data();
     void estimatesItsHeight();
@@ -54,7 +59,9 @@ private Q_SLOTS:
     void uncollectsTheCopyOfAnItem();
     void uncollectsByTheCopy();
     void uncollectsAnActionInSeveralGroups();
+    void copyThatWasUncollectedGoesWhenItIsCollected();
     void collectsWhileItIsSearched();
+    void collectedItemsFindTheirPlacesAgain();
 };
 
 namespace {
@@ -103,6 +110,27 @@ QString buttons(const GalleryWindow &window)
     return up + u'/' + down;
 }
 
+// Tells each time that a widget is shown.
+class ShowWatch : public QObject
+{
+public:
+    ShowWatch(QWidget *widget, const std::function<void()> &tell)
+        : m_tell(tell)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            m_tell();
+        return false;
+    }
+
+private:
+    std::function<void()> m_tell;
+};
+
 bool isMarked(const RibbonGalleryItem *item)
 {
     const QImage filled = QIcon(u":/res/collected.svg"_s).pixmap(QSize(16, 16), 1).toImage();
@@ -111,6 +139,21 @@ bool isMarked(const RibbonGalleryItem *item)
 }
 
 } // namespace
+
+void tst_RibbonGalleryPopup::hasThreeSignals()
+{
+    const QMetaObject &meta = RibbonGalleryPopup::staticMetaObject;
+    QCOMPARE(meta.superClass(), &QScrollArea::staticMetaObject);
+    const QByteArrayList signatures{"signalGroupUpdated()", "signalHeightChanged(int)",
+                                    "signalUpdateDisplayedItems()"};
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + signatures.size());
+    for (int i = 0; i < signatures.size(); ++i) {
+        const QMetaMethod method = meta.method(meta.methodOffset() + i);
+        QCOMPARE(method.methodSignature(), signatures.at(i));
+        QCOMPARE(method.methodType(), QMetaMethod::Signal);
+    }
+    QCOMPARE(meta.method(meta.methodOffset() + 1).parameterNames(), QByteArrayList{"height"});
+}
 
 void tst_RibbonGalleryPopup::hasASearchRow()
 {
@@ -174,8 +217,13 @@ void tst_RibbonGalleryPopup::standsItsPartsInAColumn()
         QCOMPARE(group->size(), QSize(content->width(), 24 + 10 + rows * 60));
         y += group->height();
     }
+    const QLayout *column = content->layout()->itemAt(1)->layout();
+    QCOMPARE(column->alignment(), Qt::AlignTop);
+    QCOMPARE(column->contentsMargins(), QMargins());
+    QCOMPARE(column->spacing(), 0);
     QLabel *label = window.noMatchLabel();
     QVERIFY(label->isHidden());
+    QCOMPARE(column->indexOf(label), column->count() - 1);
     QCOMPARE(label->text(), u"No items match your search criteria."_s);
     QCOMPARE(label->alignment().toInt(), 0xa4);
     QCOMPARE(label->height(), 30);
@@ -344,6 +392,32 @@ void tst_RibbonGalleryPopup::groupMovesLikeTheModel()
         QCOMPARE(window.strip(), model);
     }
     window.closePopup();
+}
+
+// No button asks for another place than the first or the last.
+void tst_RibbonGalleryPopup::groupThatIsMovedElsewhereIsLeftOut()
+{
+    for (const auto position : {RibbonGalleryGroup::Fixed, RibbonGalleryGroup::Middle}) {
+        GalleryWindow window;
+        window.gallery->setDispalyCount(3);
+        for (const QString &title : {u"A"_s, u"B"_s, u"C"_s})
+            window.add(title, {title + u'0'});
+        QVERIFY(window.open());
+        RibbonGalleryGroup *moved = window.group(1);
+        QSignalSpy updated(window.popup(), &RibbonGalleryPopup::signalGroupUpdated);
+        Q_EMIT moved->signalPositionChange(position);
+        QCOMPARE(updated.count(), 1);
+        QCOMPARE(window.popup()->indexOfGroup(u"A"_s), 0);
+        QCOMPARE(window.popup()->indexOfGroup(u"B"_s), -1);
+        QCOMPARE(window.popup()->indexOfGroup(u"C"_s), 1);
+        QCOMPARE(window.popup()->computedHeight(true), searchHeight + 98 + 98);
+        QCOMPARE(window.strip().last(3), QStringList({u"A0"_s, u"C0"_s, u"-"_s}));
+        // The buttons take it back.
+        Q_EMIT moved->signalPositionChange(RibbonGalleryGroup::Bottom);
+        QCOMPARE(titles(window), QStringList({u"A"_s, u"C"_s, u"B"_s}));
+        QCOMPARE(buttons(window), u"CB/AC"_s);
+        QCOMPARE(window.popup()->indexOfGroup(u"B"_s), 2);
+    }
 }
 
 void tst_RibbonGalleryPopup::estimatesItsHeight_data()
@@ -729,7 +803,10 @@ void tst_RibbonGalleryPopup::searchOfAnEmptyCatalogue()
     QVERIFY(label);
     QVERIFY(label->isHidden());
     QCOMPARE(label->text(), u"No items match your search criteria."_s);
+    QList<bool> shownAsWindow;
+    ShowWatch watch(label, [&] { shownAsWindow << label->isWindow(); });
     window.edit()->setText(u"x"_s);
+    QVERIFY(!shownAsWindow.isEmpty() && !shownAsWindow.contains(false));
     QCoreApplication::processEvents();
     window.menu()->close();
     QVERIFY(label->isHidden());
@@ -741,7 +818,9 @@ void tst_RibbonGalleryPopup::searchOfAnEmptyCatalogue()
     QCOMPARE(window.noMatchLabel(), label);
     QVERIFY(label->isHidden());
     window.popupButton()->click();
+    shownAsWindow.clear();
     window.edit()->setText(u"x"_s);
+    QCOMPARE(shownAsWindow, QList<bool>{false});
     QVERIFY(label->isVisible());
     QVERIFY(window.menu()->isVisible());
     window.menu()->close();
@@ -890,6 +969,40 @@ void tst_RibbonGalleryPopup::uncollectsAnActionInSeveralGroups()
     window.closePopup();
 }
 
+// An action whose first item cannot be collected: nothing takes its second copy away.
+void tst_RibbonGalleryPopup::copyThatWasUncollectedGoesWhenItIsCollected()
+{
+    GalleryWindow window(false);
+    QAction *action = window.createAction(u"twice"_s);
+    window.gallery->addItem(u"One"_s, action);
+    window.gallery->setCollectEnabled(true);
+    window.gallery->addItem(u"One"_s, action);
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(window.gallery->setItemCollected(0, 1, true));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
+    const QPointer<RibbonGalleryItem> copy = window.collected()->item(1);
+    GalleryWindow::clickMarker(copy);
+    // The first copy goes for the second.
+    QCOMPARE(window.collected()->count(), 1);
+    QCOMPARE(window.collected()->item(0), copy);
+    QVERIFY(!copy->isCollected());
+    QVERIFY(GalleryWindow::markerOf(copy)->isHidden());
+    QVERIFY(window.item(0, 1)->isCollected());
+    // It is collected like any item, and goes.
+    QTRY_COMPARE(copy->pos(), QPoint(3, 5));
+    Gui::moveMouse(window.edit(), {3, 3});
+    GalleryWindow::clickMarker(copy);
+    QVERIFY(!copy);
+    QCOMPARE(window.collected()->count(), 0);
+    QVERIFY(window.collected()->isHidden());
+    QVERIFY(window.item(0, 1)->isCollected());
+    QVERIFY(window.menu()->isVisible());
+    QCOMPARE(triggered.count(), 0);
+    window.closePopup();
+}
+
 void tst_RibbonGalleryPopup::collectsWhileItIsSearched()
 {
     GalleryWindow window;
@@ -909,6 +1022,25 @@ void tst_RibbonGalleryPopup::collectsWhileItIsSearched()
     QVERIFY(window.collected()->isVisible());
     window.search(QString());
     QCOMPARE(GalleryWindow::visibleTexts(window.collected()), QStringList(u"a"_s));
+    window.closePopup();
+}
+
+// With every new height, whatever it comes from.
+void tst_RibbonGalleryPopup::collectedItemsFindTheirPlacesAgain()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(2));
+    window.gallery->setItemCollected(0, 0, true);
+    // A search leaves the collected items alone then.
+    window.gallery->setCollectEnabled(false);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QTRY_COMPARE(window.collected()->item(0)->pos(), QPoint(3, 5));
+    window.collected()->item(0)->move(7, 7);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.collected()->item(0)->pos(), QPoint(7, 7));
+    window.search(u"I"_s);
+    QTRY_COMPARE(window.collected()->item(0)->pos(), QPoint(3, 5));
     window.closePopup();
 }
 
