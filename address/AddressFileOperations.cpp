@@ -72,8 +72,8 @@ Names namesIn(const QDir &folder)
         else if (info.isDir())
             names.folders << info.fileName();
     }
-    names.files.sort();
-    names.folders.sort();
+    names.files.sort(Qt::CaseInsensitive);
+    names.folders.sort(Qt::CaseInsensitive);
     return names;
 }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void reportsWhatCannotBeCopied();
     void mergesFolders();
     void reportsAFolderInTheWayOfAMerge();
+    void mergesInTheOrderOfNames();
     void copiesNoHiddenEntries();
     void leavesPipesAlone();
 
@@ -472,6 +473,7 @@ void tst_AddressFileOperations::asksAboutAFile()
     QCOMPARE(box.text, conflict(u"f"_s));
     // A name is no markup.
     QCOMPARE(box.format, Qt::PlainText);
+    QCOMPARE(box.parent, nullptr);
     QCOMPARE(box.buttons,
              QStringList({u"Replace Current"_s, u"Save a Copy"_s, u"Skip"_s, u"Cancel"_s}));
     QCOMPARE(clipboardIsEmpty(), cut);
@@ -562,6 +564,7 @@ void tst_AddressFileOperations::reportsWhatCannotBeCopied()
         QCOMPARE(box.text,
                  reason.isEmpty() ? u"Source file does not exist"_s : refusal(from, to, reason));
         QCOMPARE(box.buttons, QStringList{u"OK"_s});
+        QCOMPARE(box.parent, nullptr);
         QCOMPARE(clipboardIsEmpty(), cut);
     }
 }
@@ -594,6 +597,22 @@ void tst_AddressFileOperations::reportsAFolderInTheWayOfAMerge()
     QCOMPARE(answers.texts(),
              QStringList({conflict(u"d"_s),
                           refusal(files.path(u"d/a"_s), files.path(u"to/d/a"_s), sameName)}));
+}
+
+// As a person reads them: capitals do not come first.
+void tst_AddressFileOperations::mergesInTheOrderOfNames()
+{
+    const Files files({u"d/b"_s, u"d/A"_s, u"d/C"_s, u"d/a1"_s, u"to/d"_s, u"to/d/b=2"_s,
+                       u"to/d/A=2"_s, u"to/d/C=2"_s, u"to/d/a1=2"_s});
+    const QStringList names{u"A"_s, u"a1"_s, u"b"_s, u"C"_s};
+    QCOMPARE(QDir(files.path(u"d"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot), names);
+    const Answers answers({{u"Replace Current"_s}});
+    paste({files.path(u"d"_s)}, files.path(u"to"_s));
+    QStringList expected{conflict(u"d"_s)};
+    for (const QString &name : names) {
+        expected << refusal(files.path(u"d/"_s + name), files.path(u"to/d/"_s + name), sameName);
+    }
+    QCOMPARE(answers.texts(), expected);
 }
 
 void tst_AddressFileOperations::copiesNoHiddenEntries()

@@ -33,6 +33,8 @@ public:
         QString text;
         Qt::TextFormat format;
         QStringList buttons;
+        QMessageBox::Icon icon;
+        const QWidget *parent;
     };
 
     explicit Answers(const QList<Answer> &answers = {})
@@ -59,7 +61,8 @@ private:
         if (!box || box == m_answered || !box->windowHandle() || !box->windowHandle()->isExposed())
             return;
         m_answered = box;
-        Box seen{box->windowTitle(), box->text(), box->textFormat(), {}};
+        Box seen{box->windowTitle(), box->text(),        box->textFormat(), {},
+                 box->icon(),        box->parentWidget()};
         const QList<QAbstractButton *> buttons = box->buttons();
         for (const QAbstractButton *button : buttons)
             seen.buttons << button->text().remove(u'&');
