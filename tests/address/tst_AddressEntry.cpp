@@ -62,6 +62,7 @@ private Q_SLOTS:
     void plainBackgrounds();
     void splitBackgrounds();
     void rootBackgrounds();
+    void pressNeedsNoMouseToBeSeen();
     void hoverGoesWithTheMouse();
     void hoverGoesWithTheMenu();
     void nameIsBlackAndCentred();
@@ -734,6 +735,24 @@ void tst_AddressEntry::rootBackgrounds()
                      [&] { whileMenuOpens = wrong(pressed); });
     QVERIFY(openMenu(&window, [] { }));
     QCOMPARE(whileMenuOpens, QString());
+}
+
+// A finger or a pen comes without having hovered.
+void tst_AddressEntry::pressNeedsNoMouseToBeSeen()
+{
+    Fixture f;
+    QVERIFY(f.plain.open());
+    const QPointF position(f.plain.onText());
+    QCOMPARE(Shot(f.plain.entry).device(0, 0), backdrop);
+    QMouseEvent press(QEvent::MouseButtonPress, position, f.plain.entry->mapToGlobal(position),
+                      Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(f.plain.entry, &press);
+    const Shot shot(f.plain.entry);
+    QCOMPARE(shot.device(0, 0), border);
+    QCOMPARE(shot.otherThan(pressed, QRect(1, 0, 2, 22)), QString());
+    QMouseEvent release(QEvent::MouseButtonRelease, position, f.plain.entry->mapToGlobal(position),
+                        Qt::LeftButton, {}, {});
+    QApplication::sendEvent(f.plain.entry, &release);
 }
 
 void tst_AddressEntry::hoverGoesWithTheMouse()

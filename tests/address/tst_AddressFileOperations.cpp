@@ -6,6 +6,7 @@
 #include "Files.h"
 #include "OpenedUrls.h"
 #include "TestCase.h"
+#include "Unprivileged.h"
 
 #include <address/AddressFileOperations.h>
 
@@ -148,27 +149,6 @@ bool makePipe(const QString &path)
 {
     return mkfifo(QFile::encodeName(path).constData(), 0600) == 0;
 }
-
-//! A user who may not do everything, for as long as this lives.
-class Unprivileged
-{
-public:
-    Unprivileged()
-        : m_user(getuid())
-    {
-        if (m_user == 0 && setresuid(65534, 65534, 0) != 0)
-            qWarning("cannot become somebody else");
-    }
-    ~Unprivileged()
-    {
-        if (m_user == 0 && (seteuid(0) != 0 || setresuid(0, 0, 0) != 0))
-            qWarning("cannot become root again");
-    }
-    Q_DISABLE_COPY_MOVE(Unprivileged)
-
-private:
-    uid_t m_user;
-};
 
 void setWritable(const QString &path, bool writable)
 {

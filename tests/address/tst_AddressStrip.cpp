@@ -8,6 +8,7 @@
 #include "Popup.h"
 #include "Steps.h"
 #include "TestCase.h"
+#include "Unprivileged.h"
 
 #include <address/AddressEntry.h>
 #include <address/AddressStrip.h>
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void followsAClickedCrumb();
     void followsAPickedFolder();
     void showsFoldersThatAreGone();
+    void showsFoldersThatMayNotBeRead();
     void showsAPathOfTenThousandCharacters();
 
     void keepsAHistory();
@@ -68,7 +70,9 @@ private Q_SLOTS:
     void losesItsCrumbsToTheSlotWithTheCurrentPath();
 
     void editsAfterAClick();
+    void takesTheFocusForNoSpecialReason();
     void editsWhatItIsGiven();
+    void forgetsTheTextOfAHiddenEditor();
     void ignoresOtherButtons_data();
     void ignoresOtherButtons();
     void takesClicksInTheEditor();
@@ -85,6 +89,7 @@ private Q_SLOTS:
 
     void leavesTheEditor_data();
     void leavesTheEditor();
+    void tellsThatEditingIsOverAfterItsNavigation();
     void staysInTheEditorWhenItIsClicked();
     void rewritesTheHistoryWhenTheEditorIsLeft();
     void keepsTheEmptyPathWithoutCrumbs();
@@ -95,6 +100,7 @@ private Q_SLOTS:
     void staysWhereItIsWhenNoFolderIsChosen();
     void staysWhereItIsWhenTheSameFolderIsChosen();
     void followsItsCompleter();
+    void takesAStoredPathFromItsCompleterAsItIs();
 
     void isDeletedWithTheFocus_data();
     void isDeletedWithTheFocus();
@@ -152,6 +158,26 @@ public:
     AddressStrip *const strip;
     QWidget *const patch;
     QLineEdit *const field;
+    int releases = 0;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *) override { ++releases; }
+};
+
+//! Why the widget got the focus, each time.
+class FocusReasons : public QObject
+{
+public:
+    explicit FocusReasons(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons << static_cast<QFocusEvent *>(event)->reason();
+        return false;
+    }
+
+    QList<Qt::FocusReason> reasons;
 };
 
 //! The whole history, found out by walking it, and the index, at which the strip stands again.
@@ -548,6 +574,32 @@ void tst_AddressStrip::showsFoldersThatAreGone()
     QVERIFY(showsCrumbs(window.strip));
 }
 
+void tst_AddressStrip::showsFoldersThatMayNotBeRead()
+{
+    const Unprivileged user;
+    const Folders folders({QStringLiteral("locked/sub")});
+    const QString locked = folders.path(QStringLiteral("locked"));
+    QVERIFY(QFile::setPermissions(locked, {}));
+    const auto unlock = qScopeGuard([&] {
+        QFile::setPermissions(locked, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+    });
+    Window window;
+    QVERIFY(window.open());
+    Log log(window.strip);
+    window.strip->setPath(locked);
+    QCOMPARE(log.take(), (QStringList{QStringLiteral("001"), locked, QStringLiteral("001")}));
+    QVERIFY(showsCrumbs(window.strip));
+    QVERIFY(!entriesOf(window.strip).constLast()->menu());
+    window.strip->goUp();
+    QCOMPARE(window.strip->path(), folders.path());
+    // It exists, so it can be typed, too.
+    window.clickIntoStrip();
+    window.type(locked);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    QCOMPARE(window.strip->path(), locked);
+    QVERIFY(showsCrumbs(window.strip));
+}
+
 void tst_AddressStrip::showsAPathOfTenThousandCharacters()
 {
     Window window;
@@ -750,6 +802,19 @@ void tst_AddressStrip::editsAfterAClick()
     QCOMPARE(log.take(), QStringList());
 }
 
+void tst_AddressStrip::takesTheFocusForNoSpecialReason()
+{
+    Window window;
+    QVERIFY(window.open());
+    window.strip->setPath(QStringLiteral("/usr"));
+    const FocusReasons focus(window.strip);
+    window.clickIntoStrip();
+    QCOMPARE(focus.reasons, QList{Qt::OtherFocusReason});
+    window.click(window.patch);
+    window.strip->edit(QStringLiteral("text"));
+    QCOMPARE(focus.reasons, (QList{Qt::OtherFocusReason, Qt::OtherFocusReason}));
+}
+
 void tst_AddressStrip::editsWhatItIsGiven()
 {
     const Folders folders;
@@ -769,6 +834,17 @@ void tst_AddressStrip::editsWhatItIsGiven()
     QCOMPARE(window.strip->path(), folders.path());
 }
 
+void tst_AddressStrip::forgetsTheTextOfAHiddenEditor()
+{
+    // What is not seen has no focus that it could lose.
+    AddressStrip strip;
+    strip.setPath(QStringLiteral("/usr"));
+    strip.edit(QStringLiteral("text"));
+    strip.setPath(QStringLiteral("/var"));
+    QCOMPARE(strip.text(), QString());
+    QCOMPARE(crumbsOf(&strip), QStringList{QStringLiteral("var")});
+}
+
 void tst_AddressStrip::ignoresOtherButtons_data()
 {
     QTest::addColumn<Qt::MouseButton>("button");
@@ -784,12 +860,16 @@ void tst_AddressStrip::ignoresOtherButtons()
     QVERIFY(window.open());
     window.strip->setPath(QStringLiteral("/usr"));
     window.clickIntoStrip(button);
+    QCOMPARE(window.releases, 1);
     QVERIFY(showsCrumbs(window.strip));
     window.click(entriesOf(window.strip).constLast(), QPoint(4, 11), button);
     QVERIFY(showsCrumbs(window.strip));
+    window.releases = 0;
     window.clickIntoStrip();
+    QCOMPARE(window.releases, 0);
     QVERIFY(isEditing(window.strip));
     window.clickIntoStrip(button);
+    QCOMPARE(window.releases, 1);
     QVERIFY(isEditing(window.strip));
     QCOMPARE(window.strip->text(), QStringLiteral("\\usr"));
 }
@@ -828,11 +908,14 @@ void tst_AddressStrip::commitsTypedText()
     window.strip->setPath(QStringLiteral("/usr"));
     window.clickIntoStrip();
     Log log(window.strip);
+    const QSignalSpy returns(window.strip, &QLineEdit::returnPressed);
     window.type(pattern.arg(folders.path()));
     QCOMPARE(log.take(), QStringList());
     QTest::keyClick(window.windowHandle(), Qt::Key_Return);
     const QString path = folders.path(QStringLiteral("a/b c"));
     QCOMPARE(window.strip->path(), path);
+    // The key is the strip's, not the line edit's.
+    QCOMPARE(returns.count(), 0);
     QCOMPARE(log.take(), (QStringList{QStringLiteral("101"), path, QStringLiteral("101")}));
     QVERIFY(showsCrumbs(window.strip));
     QCOMPARE(Walk(window.strip).paths, (QStringList{QStringLiteral("/usr"), path}));
@@ -1063,6 +1146,22 @@ void tst_AddressStrip::leavesTheEditor()
     QCOMPARE(Walk(window.strip).paths, (QStringList{QStringLiteral("/usr"), path}));
 }
 
+void tst_AddressStrip::tellsThatEditingIsOverAfterItsNavigation()
+{
+    Window window;
+    QVERIFY(window.open());
+    window.strip->setPath(QStringLiteral("/usr"));
+    window.clickIntoStrip();
+    window.type(QStringLiteral("not committed"));
+    QStringList told;
+    QObject::connect(window.strip, &AddressStrip::signalPathChanged, &window,
+                     [&told](const QString &path) { told << path; });
+    QObject::connect(window.strip, &QLineEdit::editingFinished, &window,
+                     [&told] { told << QStringLiteral("finished"); });
+    window.click(window.patch);
+    QCOMPARE(told, (QStringList{QStringLiteral("/usr"), QStringLiteral("finished")}));
+}
+
 void tst_AddressStrip::staysInTheEditorWhenItIsClicked()
 {
     Window window;
@@ -1241,6 +1340,20 @@ void tst_AddressStrip::followsItsCompleter()
     QCOMPARE(changes.count(), 1);
     QCOMPARE(changes.takeFirst(), QVariantList{QStringLiteral("C:/Data")});
     QVERIFY(showsCrumbs(window.strip) || crumbsOf(window.strip).size() == 2);
+}
+
+void tst_AddressStrip::takesAStoredPathFromItsCompleterAsItIs()
+{
+    // It is the path before it is compared with it, so that it is no change.
+    Window window;
+    QVERIFY(window.open());
+    window.strip->setPath(QStringLiteral("/usr"));
+    Log log(window.strip);
+    Q_EMIT window.strip->completer()->activated(QStringLiteral("/var"));
+    QCOMPARE(window.strip->path(), QStringLiteral("/var"));
+    QCOMPARE(log.take(), QStringList());
+    QCOMPARE(window.strip->layout()->count(), 0);
+    QCOMPARE(Walk(window.strip).paths, QStringList{QStringLiteral("/var")});
 }
 
 void tst_AddressStrip::isDeletedWithTheFocus_data()

@@ -6,6 +6,7 @@
 #include "Gui.h"
 #include "OpenedUrls.h"
 #include "TestCase.h"
+#include "Unprivileged.h"
 
 #include <address/AddressTree.h>
 
@@ -22,6 +23,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 
+#include <functional>
 #include <memory>
 
 using Norvane::AddressTree;
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void showsPathsAsTheyAreEdited();
     void ignoresTheCurrentPath();
     void staysWhereItIsWithoutAFolder();
+    void showsFoldersThatMayNotBeRead();
     void actsOnNothingBeforeItShowsAFolder();
     void actsOnNothingAfterItsFolderIsGone();
     void selectsWhereItCameFrom_data();
@@ -62,6 +65,7 @@ private Q_SLOTS:
 
     void offersWhatCanBeDone_data();
     void offersWhatCanBeDone();
+    void opensItsMenuUnderTheMouse();
     void showsMenusWithoutADestination();
     void doesWhatIsPicked();
     void takesNewActions();
@@ -194,9 +198,10 @@ QStringList described(const QMenu *menu)
 
 /*!
     Opens the context menu with the right mouse button and clicks through the given entries; without
-    any, it closes the menu again. Returns what was in the menu.
+    any, it closes the menu again. Returns what was in the menu, which \a look can look at before.
 */
-QStringList menuAt(Tree *tree, QPoint position, QStringList picks = {})
+QStringList menuAt(Tree *tree, QPoint position, QStringList picks = {},
+                   const std::function<void(const QMenu *)> &look = {})
 {
     QStringList seen;
     QTimer poll;
@@ -206,6 +211,8 @@ QStringList menuAt(Tree *tree, QPoint position, QStringList picks = {})
             return;
         if (seen.isEmpty()) {
             seen = described(menu);
+            if (look)
+                look(menu);
             // It opened under a button that is still down.
             Gui::release(tree->viewport(), position, Qt::RightButton);
         }
@@ -423,6 +430,38 @@ void tst_AddressTree::staysWhereItIsWithoutAFolder()
     QCOMPARE(tree.targetPath(), files.path());
     tree.slotPathChanged(files.path());
     QCOMPARE(tree.targetPath(), files.path());
+}
+
+void tst_AddressTree::showsFoldersThatMayNotBeRead()
+{
+    const Unprivileged user;
+    const Files files({u"locked"_s, u"locked/f=1"_s, u"g=1"_s});
+    const QString locked = files.path(u"locked"_s);
+    QVERIFY(QFile::setPermissions(locked, {}));
+    const auto unlock = qScopeGuard([&] {
+        QFile::setPermissions(locked, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+    });
+    Tree tree(files);
+    QVERIFY(tree.open());
+    // The model says that it cannot follow what happens there.
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^inotify_add_watch.*/locked"_s));
+    tree.slotPathChanged(locked);
+    QCOMPARE(tree.files()->filePath(tree.rootIndex()), locked);
+    QCOMPARE(tree.targetPath(), locked);
+    QCOMPARE(tree.files()->rowCount(tree.rootIndex()), 0);
+    // Nothing can be put there, and nothing says so.
+    const Answers answers;
+    toClipboard({files.path(u"g"_s)});
+    tree.key(Qt::Key_V, Qt::ControlModifier);
+    tree.action(u"Folder"_s)->trigger();
+    QVERIFY(!tree.editor());
+    QCOMPARE(answers.texts(), QStringList());
+    QCOMPARE(clipboardNames(), QStringList{u"g"_s});
+    tree.slotPathChanged(files.path());
+    QVERIFY(tree.load());
+    QCOMPARE(tree.selected(), QStringList{u"locked"_s});
+    QVERIFY(QFile::setPermissions(locked, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser));
+    QCOMPARE(files.entries(), QStringList({u"g=1"_s, u"locked/"_s, u"locked/f=1"_s}));
 }
 
 void tst_AddressTree::actsOnNothingBeforeItShowsAFolder()
@@ -723,6 +762,8 @@ void tst_AddressTree::offersToOpenOtherFiles()
     QCOMPARE(box.title, u"Infomation"_s);
     QCOMPARE(box.text, u"Open the selected file with the external default program?"_s);
     QCOMPARE(box.buttons, QStringList({u"OK"_s, u"Cancel"_s}));
+    QCOMPARE(box.icon, QMessageBox::Information);
+    QCOMPARE(box.parent, &tree);
     QCOMPARE(reported.size(), 0);
 }
 
@@ -777,6 +818,27 @@ void tst_AddressTree::offersWhatCanBeDone()
     QTEST(menuAt(&tree, position), "entries");
 }
 
+void tst_AddressTree::opensItsMenuUnderTheMouse()
+{
+    const Files files({u"f=1"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    tree.move(40, 50);
+    for (const QPoint position : {tree.position(u"f"_s), tree.emptyPosition() - QPoint(300, 200)}) {
+        QPointer<const QMenu> shown;
+        QPoint place;
+        bool orphan = false;
+        menuAt(&tree, position, {}, [&](const QMenu *menu) {
+            shown = menu;
+            place = menu->pos();
+            orphan = !menu->parent();
+        });
+        QCOMPARE(place, tree.viewport()->mapToGlobal(position));
+        QVERIFY(orphan);
+        QVERIFY(!shown);
+    }
+}
+
 void tst_AddressTree::showsMenusWithoutADestination()
 {
     const Files files;
@@ -806,15 +868,20 @@ void tst_AddressTree::doesWhatIsPicked()
     expected << files.path(u"d/sub"_s) << files.path(u"d/sub"_s);
     QCOMPARE(opened.paths, expected);
 
+    // Whoever listens to the clipboard hears that it is emptied first.
+    QSignalSpy changes(QGuiApplication::clipboard(), &QClipboard::dataChanged);
     menuAt(&tree, at(u"d/sub/f.txt"_s), {u"Copy Path"_s, u"Copy Absolute Path"_s});
     QCOMPARE(QGuiApplication::clipboard()->text(), files.path(u"d/sub/f.txt"_s));
+    QCOMPARE(changes.count(), 2);
     menuAt(&tree, at(u"d/sub/f.txt"_s), {u"Copy Path"_s, u"Copy Relative Path"_s});
     QCOMPARE(QGuiApplication::clipboard()->text(), u"sub/f.txt"_s);
+    QCOMPARE(changes.count(), 4);
     QVERIFY(!clipboardHasUrls());
     tree.click(u"d/sub"_s);
     tree.action(u"Copy Absolute Path"_s)->trigger();
     tree.action(u"Copy Relative Path"_s)->trigger();
     QCOMPARE(QGuiApplication::clipboard()->text(), u"sub/f.txt"_s);
+    QCOMPARE(changes.count(), 4);
 
     menuAt(&tree, at(u"d/sub/f.txt"_s), {u"Copy"_s});
     QCOMPARE(clipboardNames(), QStringList{u"f.txt"_s});
@@ -1197,6 +1264,7 @@ void tst_AddressTree::takesFilesOnly()
     QVERIFY(!enter.isAccepted());
     const auto data = filesOf({files.path(u"f"_s)});
     QDragEnterEvent other({5, 5}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    other.setDropAction(Qt::IgnoreAction);
     QApplication::sendEvent(tree.viewport(), &other);
     QVERIFY(other.isAccepted());
     QCOMPARE(other.dropAction(), other.proposedAction());
