@@ -17,7 +17,7 @@ class AddressEntryPrivate;
     name and offers the drives, or the folders in "/" where there are no drives.
 
     A crumb takes its fixed size when it is resized, so its text and path are set before it is
-   shown.
+    shown.
 */
 class AddressEntry : public QToolButton
 {

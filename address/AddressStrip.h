@@ -17,7 +17,7 @@ class AddressStripPrivate;
     history of paths.
 
     While a text is edited, path() has "\" for every "/", and leaving the editor navigates to it:
-   the path then differs from the stored one, so it becomes the newest entry of the history, and
+    the path then differs from the stored one, so it becomes the newest entry of the history, and
     entries after the shown one are dropped. Whoever reads the history relies on both.
 */
 class AddressStrip : public QLineEdit

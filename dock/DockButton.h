@@ -14,7 +14,7 @@ class DockButtonPrivate;
 
 /*!
     A button of a DockPanel. Shows the icons of its page's views one above the other, greyed while
-   it is not checked; its tool tip is the text of the view under the mouse.
+    it is not checked; its tool tip is the text of the view under the mouse.
 */
 class DockButton : public QPushButton
 {

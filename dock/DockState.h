@@ -11,7 +11,7 @@ namespace Norvane {
 
 /*!
     A saved layout: the outer splitter's own state, the byte 0x7C, and three remembered sizes, 32
-   bits each, little-endian.
+    bits each, little-endian.
 */
 struct DockState
 {

@@ -76,7 +76,6 @@ void NorvaneAgentPrivate::setUpDialog(QDialog *dialog, QWidget *content)
     line->setFrameShape(QFrame::HLine);
     line->setFixedHeight(1);
     // Applications find the line by this text, so its semicolon stays inside the parenthesis.
-    // own.
     line->setStyleSheet(QStringLiteral("border:none; background-color: rgb(125, 125, 125;)"));
 
     auto *column = makeColumn(dialog);

@@ -18,7 +18,7 @@ class Document;
 
 /*!
     The open documents, one tab each, with a section for the texts and one for the pictures. It
-   knows nothing of dialogs: who connects to closeRequested() decides whether documents may go.
+    knows nothing of dialogs: who connects to closeRequested() decides whether documents may go.
 */
 class DocumentTabs : public QObject
 {

@@ -20,7 +20,7 @@ class WorkbenchRibbon;
 
 /*!
     The window: the ribbon over the documents, panels around them, and the status bar below. Where
-   its panels were when it was closed it remembers for the next time.
+    its panels were when it was closed it remembers for the next time.
 */
 class MainWindow : public QMainWindow
 {

@@ -19,7 +19,7 @@ class DockPanelWidgetPrivate;
 /*!
     One dock panel: a bar of buttons, panel(), and a stack of pages, stackedWidget(), which the
     DockContainer places apart from each other. Each button stands for one page, which shows one
-   view or, tabified, two. A click on a button shows its page; a click on the current page's button
+    view or, tabified, two. A click on a button shows its page; a click on the current page's button
     minimizes the panel to its bar, and a click on any button brings it back.
 
     Pages are numbered from 0 in order of addition and are never removed. An index out of range is

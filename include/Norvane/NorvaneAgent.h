@@ -77,7 +77,7 @@ public:
 
     /*!
         Binds \a pages to \a section of the content, instead of those that were bound before.
-       Returns false, and does nothing, if \a pages is empty or there is no dock container.
+        Returns false, and does nothing, if \a pages is empty or there is no dock container.
 
         The pages are shown from the next change to the section on, and the first of them becomes
         the current one; if the first one is null the current page stays. Pages that are not in the

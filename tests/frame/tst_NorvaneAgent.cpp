@@ -27,6 +27,7 @@
 #include <QtWidgets/QTabBar>
 
 #include <optional>
+#include <stdexcept>
 
 using namespace Norvane;
 using namespace Qt::StringLiterals;
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void setsUpOnce_data();
     void setsUpOnce();
     void spendsItsSetupOnANullWindow();
+    void setsUpAgainAfterAThrow();
     void leavesADialogWithALayoutAsItIs();
     void acceptsADialogWithoutContent();
     void replacesTheSheetOfTheApplication();
@@ -312,6 +314,25 @@ void tst_NorvaneAgent::spendsItsSetupOnANullWindow()
         QVERIFY(!agent.dockContainer());
         QVERIFY(qApp->styleSheet().isEmpty());
     }
+}
+
+void tst_NorvaneAgent::setsUpAgainAfterAThrow()
+{
+    class Throwing : public QMainWindow
+    {
+    protected:
+        void childEvent(QChildEvent *) override { throw std::runtime_error("no child"); }
+    };
+    NorvaneAgent agent;
+    {
+        Throwing window;
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, agent.setup(&window, true, true));
+        QVERIFY(!agent.dockContainer());
+    }
+    QMainWindow window;
+    agent.setup(&window, true, true);
+    QCOMPARE(window.centralWidget(), agent.ribbonBar()->parentWidget());
+    QVERIFY(agent.dockContainer());
 }
 
 void tst_NorvaneAgent::leavesADialogWithALayoutAsItIs()

@@ -4,11 +4,14 @@
 #include "Files.h"
 #include "TestCase.h"
 #include "picture/PictureDocument.h"
+#include "picture/PictureEffect.h"
 #include "picture/PictureView.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QSignalSpy>
+
+#include <optional>
 
 using namespace Workbench;
 
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void turns_data();
     void turns();
     void undoesAllTurnsExactly();
+    void showsThatItIsAtWork();
     void crops();
     void cropsNothing();
     void copiesTheSelection();
@@ -125,6 +129,22 @@ void tst_PictureDocument::undoesAllTurnsExactly()
     QCOMPARE(image(document), Files::quarters(QSize(31, 17)));
     QVERIFY(!document.isModified());
     QVERIFY(document.canRedo());
+}
+
+void tst_PictureDocument::showsThatItIsAtWork()
+{
+    const Files files;
+    PictureDocument document;
+    QVERIFY(load(&document, files.writeQuarters(QStringLiteral("a.png"), QSize(40, 20))));
+    std::optional<Qt::CursorShape> shape;
+    const auto look = [&](const QImage &image) {
+        if (const QCursor *cursor = QGuiApplication::overrideCursor())
+            shape = cursor->shape();
+        return image;
+    };
+    document.apply({QString(), QString(), look});
+    QCOMPARE(shape, Qt::WaitCursor);
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 void tst_PictureDocument::crops()

@@ -10,7 +10,10 @@
 #include <QtGui/QColorSpace>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 
 using namespace Workbench;
 
@@ -28,6 +31,7 @@ private Q_SLOTS:
     void blursEdges_data();
     void blursEdges();
     void blursToTheSidesOnly();
+    void blursInBothDirections();
     void doesNotBleedWhatIsTransparent();
     void glowsAroundLight();
     void takesAwaySpots();
@@ -46,6 +50,8 @@ private Q_SLOTS:
     void embossesEdges();
     void darkensTheCorners();
     void scattersTheSameGrain();
+    void worksOnLargePictures_data();
+    void worksOnLargePictures();
     void takesEveryKindOfPicture_data();
     void takesEveryKindOfPicture();
     void previewsDiffer();
@@ -487,6 +493,136 @@ void tst_PictureEffects::scattersTheSameGrain()
     QCOMPARE(values.size(), 61);
     QCOMPARE(*std::min_element(values.cbegin(), values.cend()), 98);
     QCOMPARE(*std::max_element(values.cbegin(), values.cend()), 158);
+}
+
+// A picture as it is defined at each place, computed without regard to time.
+using Definition = std::function<QRgb(const QImage &, int, int)>;
+
+static QRgb at(const QImage &image, int x, int y)
+{
+    return image.pixel(qBound(0, x, image.width() - 1), qBound(0, y, image.height() - 1));
+}
+
+static QRgb meanAround(const QImage &image, int x, int y, int across, int down)
+{
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    for (int row = y - down; row <= y + down; ++row) {
+        for (int column = x - across; column <= x + across; ++column) {
+            const QRgb pixel = at(image, column, row);
+            red += qRed(pixel);
+            green += qGreen(pixel);
+            blue += qBlue(pixel);
+        }
+    }
+    const double count = (2 * across + 1) * (2 * down + 1);
+    return qRgb(qRound(red / count), qRound(green / count), qRound(blue / count));
+}
+
+static QRgb medianAround(const QImage &image, int x, int y)
+{
+    QList<QRgb> pixels;
+    for (int i = 0; i < 9; ++i)
+        pixels << at(image, x + i % 3 - 1, y + i / 3 - 1);
+    std::sort(pixels.begin(), pixels.end(),
+              [](QRgb a, QRgb b) { return qGray(a) != qGray(b) ? qGray(a) < qGray(b) : a < b; });
+    return pixels.at(4);
+}
+
+static QRgb mostCommonAround(const QImage &image, int x, int y)
+{
+    QList<QList<QRgb>> pixels(16);
+    for (int row = std::max(0, y - 3); row <= std::min(image.height() - 1, y + 3); ++row) {
+        for (int column = std::max(0, x - 3); column <= std::min(image.width() - 1, x + 3);
+             ++column)
+            pixels[qGray(image.pixel(column, row)) / 16] << image.pixel(column, row);
+    }
+    const QList<QRgb> most =
+        *std::max_element(pixels.cbegin(), pixels.cend(),
+                          [](const auto &a, const auto &b) { return a.size() < b.size(); });
+    const auto mean = [&](int (*channel)(QRgb)) {
+        const int sum = std::accumulate(most.cbegin(), most.cend(), 0,
+                                        [&](int sum, QRgb pixel) { return sum + channel(pixel); });
+        return sum / int(most.size());
+    };
+    return qRgb(mean(&qRed), mean(&qGreen), mean(&qBlue));
+}
+
+static QRgb slopeAround(const QImage &image, int x, int y)
+{
+    const auto light = [&](int right, int below) { return qGray(at(image, x + right, y + below)); };
+    const int across = light(1, -1) + 2 * light(1, 0) + light(1, 1) - light(-1, -1)
+        - 2 * light(-1, 0) - light(-1, 1);
+    const int down = light(-1, 1) + 2 * light(0, 1) + light(1, 1) - light(-1, -1) - 2 * light(0, -1)
+        - light(1, -1);
+    const int grey = std::max(0, qRound(255 - std::hypot(across, down)));
+    return qRgb(grey, grey, grey);
+}
+
+static QRgb reliefAround(const QImage &image, int x, int y)
+{
+    const int grey =
+        qBound(0, 128 + qGray(at(image, x + 1, y + 1)) - qGray(at(image, x - 1, y - 1)), 255);
+    return qRgb(grey, grey, grey);
+}
+
+void tst_PictureEffects::worksOnLargePictures_data()
+{
+    QTest::addColumn<Definition>("definition");
+    QTest::newRow("Negative") << Definition(
+        [](const QImage &image, int x, int y) { return ~image.pixel(x, y) | 0xff000000; });
+    QTest::newRow("Motion") << Definition(
+        [](const QImage &image, int x, int y) { return meanAround(image, x, y, 8, 0); });
+    QTest::newRow("Despeckle") << Definition(&medianAround);
+    QTest::newRow("Symmetry") << Definition([](const QImage &image, int x, int y) {
+        return image.pixel(std::min(x, image.width() - 1 - x), y);
+    });
+    QTest::newRow("Pencil") << Definition(&slopeAround);
+    QTest::newRow("Oil Paint") << Definition(&mostCommonAround);
+    QTest::newRow("Emboss") << Definition(&reliefAround);
+}
+
+void tst_PictureEffects::worksOnLargePictures()
+{
+    QFETCH(const Definition, definition);
+    // More lines than one thread is given, and a last part that is smaller than the others.
+    const QImage image = colourful(QSize(151, 300));
+    const QImage changed = apply(QTest::currentDataTag(), image);
+    QCOMPARE(changed.size(), image.size());
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (changed.pixel(x, y) != definition(image, x, y))
+                QFAIL(qPrintable(QStringLiteral("%1, %2: %3 and not %4")
+                                     .arg(x)
+                                     .arg(y)
+                                     .arg(changed.pixelColor(x, y).name(),
+                                          QColor(definition(image, x, y)).name())));
+        }
+    }
+}
+
+void tst_PictureEffects::blursInBothDirections()
+{
+    // More columns and lines than one thread is given.
+    const QImage image = colourful(QSize(140, 150));
+    QImage expected = image;
+    for (int i = 0; i < 3; ++i) {
+        const QImage before = expected;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                expected.setPixel(x, y, meanAround(before, x, y, 7, 7));
+        }
+    }
+    const QImage changed = apply("Blur", image);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor is = changed.pixelColor(x, y);
+            const QColor wanted = expected.pixelColor(x, y);
+            QVERIFY(near(is.red(), wanted.red(), 2) && near(is.green(), wanted.green(), 2)
+                    && near(is.blue(), wanted.blue(), 2));
+        }
+    }
 }
 
 void tst_PictureEffects::takesEveryKindOfPicture_data()

@@ -13,27 +13,33 @@ namespace Workbench {
 
 static QImage embossed(const QImage &image)
 {
-    const QImage source = Pixels::straight(image);
-    return Pixels::recolouredAt(source, [&](QRgb, QPoint place) {
-        const int slope = Pixels::lightness(source, place.x() + 1, place.y() + 1)
-            - Pixels::lightness(source, place.x() - 1, place.y() - 1);
-        const int grey = Pixels::limited(128 + slope);
+    const QImage light = Pixels::withLightness(image);
+    if (light.isNull())
+        return light;
+    const Pixels::Lines<const QRgb> lines(light);
+    return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
+        const QRgb *above = lines[place.y()] + place.x();
+        const QRgb *below = lines[place.y() + 2] + place.x();
+        const int grey = Pixels::limited(128 + qAlpha(below[2]) - qAlpha(above[0]));
         return qRgb(grey, grey, grey);
     });
 }
 
 static QImage drawn(const QImage &image)
 {
-    const QImage source = Pixels::straight(image);
-    return Pixels::recolouredAt(source, [&](QRgb, QPoint place) {
-        const auto light = [&](int x, int y) {
-            return Pixels::lightness(source, place.x() + x, place.y() + y);
-        };
-        const int across = light(1, -1) + 2 * light(1, 0) + light(1, 1) - light(-1, -1)
-            - 2 * light(-1, 0) - light(-1, 1);
-        const int down = light(-1, 1) + 2 * light(0, 1) + light(1, 1) - light(-1, -1)
-            - 2 * light(0, -1) - light(1, -1);
-        const int grey = Pixels::limited(255 - std::hypot(across, down));
+    const QImage light = Pixels::withLightness(image);
+    if (light.isNull())
+        return light;
+    const Pixels::Lines<const QRgb> lines(light);
+    return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
+        const QRgb *above = lines[place.y()] + place.x();
+        const QRgb *level = lines[place.y() + 1] + place.x();
+        const QRgb *below = lines[place.y() + 2] + place.x();
+        const int across = qAlpha(above[2]) + 2 * qAlpha(level[2]) + qAlpha(below[2])
+            - qAlpha(above[0]) - 2 * qAlpha(level[0]) - qAlpha(below[0]);
+        const int down = qAlpha(below[0]) + 2 * qAlpha(below[1]) + qAlpha(below[2])
+            - qAlpha(above[0]) - 2 * qAlpha(above[1]) - qAlpha(above[2]);
+        const int grey = Pixels::limited(255 - std::sqrt(across * across + down * down));
         return qRgb(grey, grey, grey);
     });
 }
@@ -66,47 +72,65 @@ static QImage posterised(const QImage &image)
     });
 }
 
+// How many pixels there are, and what their colours add up to: 16 bits each in one number.
+static quint64 counted(QRgb pixel)
+{
+    return quint64(1) << 48 | quint64(qRed(pixel)) << 32 | quint64(qGreen(pixel)) << 16
+        | quint64(qBlue(pixel));
+}
+
 // Each pixel becomes the average of those around it that are of the most common lightness.
 static QImage painted(const QImage &image)
 {
     constexpr int reach = 3;
-    struct Sum
-    {
-        int count = 0;
-        int red = 0;
-        int green = 0;
-        int blue = 0;
-    };
-    const QImage source = Pixels::straight(image);
-    return Pixels::recolouredAt(source, [&](QRgb, QPoint place) {
-        std::array<Sum, 16> sums;
-        for (int y = std::max(0, place.y() - reach);
-             y <= std::min(source.height() - 1, place.y() + reach); ++y) {
-            const auto *line = reinterpret_cast<const QRgb *>(source.constScanLine(y));
-            for (int x = std::max(0, place.x() - reach);
-                 x <= std::min(source.width() - 1, place.x() + reach); ++x) {
-                Sum &sum = sums[size_t(qGray(line[x]) / 16)];
-                ++sum.count;
-                sum.red += qRed(line[x]);
-                sum.green += qGreen(line[x]);
-                sum.blue += qBlue(line[x]);
+    const QImage light = Pixels::withLightness(image);
+    if (light.isNull())
+        return light;
+    const Pixels::Lines<const QRgb> from(light);
+    QImage result = Pixels::straight(image);
+    const Pixels::Lines<QRgb> to(result);
+    const int width = image.width();
+    const int height = image.height();
+    Pixels::inBands(height, [=](int first, int end) {
+        for (int y = first; y < end; ++y) {
+            const int top = std::max(0, y - reach);
+            const int bottom = std::min(height - 1, y + reach);
+            std::array<quint64, 16> sums{};
+            // From one place to the next only the columns at both ends change.
+            const auto add = [&](int x, int sign) {
+                if (x < 0 || x >= width)
+                    return;
+                for (int row = top; row <= bottom; ++row) {
+                    const QRgb pixel = from[row + 1][x + 1];
+                    sums[pixel >> 28] += quint64(sign) * counted(pixel);
+                }
+            };
+            for (int x = 0; x < reach; ++x)
+                add(x, 1);
+            for (int x = 0; x < width; ++x) {
+                add(x + reach, 1);
+                add(x - reach - 1, -1);
+                quint64 most = 0;
+                for (const quint64 sum : sums)
+                    most = (sum >> 48) > (most >> 48) ? sum : most;
+                const auto average = [count = uint(most >> 48)](quint64 sum) {
+                    return int(uint(sum & 0xffff) / count);
+                };
+                to[y][x] = (to[y][x] & ~RGB_MASK)
+                    | (qRgb(average(most >> 32), average(most >> 16), average(most)) & RGB_MASK);
             }
         }
-        const Sum &most =
-            *std::max_element(sums.cbegin(), sums.cend(),
-                              [](const Sum &a, const Sum &b) { return a.count < b.count; });
-        return qRgb(most.red / most.count, most.green / most.count, most.blue / most.count);
     });
+    return result;
 }
 
 static QImage vignetted(const QImage &image)
 {
     const QPointF centre((image.width() - 1) / 2.0, (image.height() - 1) / 2.0);
-    const qreal corner = std::max(1.0, std::hypot(centre.x(), centre.y()));
+    const qreal corner = std::max(1.0, QPointF::dotProduct(centre, centre));
     return Pixels::recolouredAt(image, [=](QRgb pixel, QPoint place) {
         const QPointF arm = place - centre;
-        const qreal distance = std::hypot(arm.x(), arm.y()) / corner;
-        return Pixels::mixed(pixel, qRgb(0, 0, 0), 0.85 * distance * distance);
+        return Pixels::mixed(pixel, qRgb(0, 0, 0), 0.85 * QPointF::dotProduct(arm, arm) / corner);
     });
 }
 

@@ -5,6 +5,8 @@
 
 #include "picture/Pixels.h"
 
+#include <array>
+
 namespace Workbench {
 
 static QImage saturated(const QImage &image, qreal factor)
@@ -28,8 +30,10 @@ static QImage balanced(const QImage &image, int red, int blue)
 // From \a dark over grey tones to \a light.
 static QImage tinted(const QImage &image, QRgb dark, QRgb light)
 {
-    return Pixels::recoloured(
-        image, [=](QRgb pixel) { return Pixels::mixed(dark, light, qGray(pixel) / 255.0); });
+    std::array<QRgb, 256> tones;
+    for (int i = 0; i < 256; ++i)
+        tones[size_t(i)] = Pixels::mixed(dark, light, i / 255.0);
+    return Pixels::recoloured(image, [&](QRgb pixel) { return tones[size_t(qGray(pixel))]; });
 }
 
 PictureEffectGroup ColourEffects::group()

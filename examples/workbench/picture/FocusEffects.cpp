@@ -20,19 +20,19 @@ static int radius(const QImage &image, qreal share)
 static QImage sharpened(const QImage &image, qreal amount)
 {
     const QImage soft = Pixels::blurred(image, 1);
-    return Pixels::recolouredAt(image, [&](QRgb pixel, QPoint place) {
-        return Pixels::mixed(
-            pixel, reinterpret_cast<const QRgb *>(soft.constScanLine(place.y()))[place.x()],
-            -amount);
+    const Pixels::Lines<const QRgb> lines(soft);
+    return Pixels::recolouredAt(image, [=](QRgb pixel, QPoint place) {
+        return Pixels::mixed(pixel, lines[place.y()][place.x()], -amount);
     });
 }
 
 static QImage glowing(const QImage &image)
 {
     const QImage soft = Pixels::blurred(image, radius(image, 0.04));
+    const Pixels::Lines<const QRgb> lines(soft);
     const auto screen = [](int a, int b) { return 255 - (255 - a) * (255 - b) / 255; };
-    return Pixels::recolouredAt(image, [&](QRgb pixel, QPoint place) {
-        const QRgb light = reinterpret_cast<const QRgb *>(soft.constScanLine(place.y()))[place.x()];
+    return Pixels::recolouredAt(image, [=](QRgb pixel, QPoint place) {
+        const QRgb light = lines[place.y()][place.x()];
         return Pixels::mixed(pixel,
                              qRgb(screen(qRed(pixel), qRed(light)),
                                   screen(qGreen(pixel), qGreen(light)),
@@ -41,22 +41,34 @@ static QImage glowing(const QImage &image)
     });
 }
 
+static QRgb middleOf(QRgb a, QRgb b, QRgb c)
+{
+    return std::max(std::min(a, b), std::min(std::max(a, b), c));
+}
+
 // Each pixel becomes the one of middle lightness around it.
 static QImage despeckled(const QImage &image)
 {
-    const QImage source = Pixels::straight(image);
-    return Pixels::recolouredAt(source, [&](QRgb, QPoint place) {
-        std::array<QRgb, 9> around;
-        auto next = around.begin();
-        for (int y = place.y() - 1; y <= place.y() + 1; ++y) {
-            const auto *line = reinterpret_cast<const QRgb *>(
-                source.constScanLine(qBound(0, y, source.height() - 1)));
-            for (int x = place.x() - 1; x <= place.x() + 1; ++x)
-                *next++ = line[qBound(0, x, source.width() - 1)];
+    const QImage light = Pixels::withLightness(image);
+    if (light.isNull())
+        return light;
+    const Pixels::Lines<const QRgb> lines(light);
+    return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
+        // The lightness comes first in the number. The middle one of nine is among the highest of
+        // the lowest, the middle of the middle and the lowest of the highest of each column.
+        QRgb lowest = 0;
+        std::array<QRgb, 3> middle;
+        QRgb highest = ~QRgb(0);
+        for (int i = 0; i < 3; ++i) {
+            const int x = place.x() + i;
+            const QRgb a = lines[place.y()][x];
+            const QRgb b = lines[place.y() + 1][x];
+            const QRgb c = lines[place.y() + 2][x];
+            lowest = std::max(lowest, std::min(a, std::min(b, c)));
+            middle[size_t(i)] = middleOf(a, b, c);
+            highest = std::min(highest, std::max(a, std::max(b, c)));
         }
-        std::nth_element(around.begin(), around.begin() + 4, around.end(),
-                         [](QRgb a, QRgb b) { return qGray(a) < qGray(b); });
-        return around[4];
+        return middleOf(lowest, middleOf(middle[0], middle[1], middle[2]), highest);
     });
 }
 

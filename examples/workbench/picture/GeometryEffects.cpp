@@ -51,8 +51,11 @@ static QImage waved(const QImage &image)
 {
     const qreal height = image.width() / 30.0;
     const qreal length = std::max(image.height() / 3.0, 4.0);
-    return Pixels::warped(image, [=](QPointF place) {
-        return place + QPointF(height * std::sin(2 * M_PI * place.y() / length), 0);
+    QList<qreal> moves(image.height());
+    for (qsizetype y = 0; y < moves.size(); ++y)
+        moves[y] = height * std::sin(2 * M_PI * qreal(y) / length);
+    return Pixels::warped(image, [&moves = std::as_const(moves)](QPointF place) {
+        return place + QPointF(moves[qsizetype(place.y())], 0);
     });
 }
 
@@ -62,7 +65,7 @@ static QImage swirled(const QImage &image)
     const qreal reach = std::min(image.width(), image.height()) / 2.0;
     return Pixels::warped(image, [=](QPointF place) {
         const QPointF arm = place - centre;
-        const qreal distance = std::hypot(arm.x(), arm.y());
+        const qreal distance = std::sqrt(QPointF::dotProduct(arm, arm));
         if (distance >= reach)
             return place;
         const qreal angle = 3 * (1 - distance / reach) * (1 - distance / reach);

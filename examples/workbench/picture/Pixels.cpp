@@ -3,43 +3,46 @@
 
 #include "picture/Pixels.h"
 
+#include <QtCore/QThreadPool>
 #include <QtGui/QColorSpace>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Workbench {
 
-static QRgb pixel(const QImage &image, int x, int y)
+// Averages columns of \a count bytes, which lie side by side, and \a stride bytes below each other.
+template<typename Columns>
+static void average(const uchar *from, uchar *to, int count, qsizetype stride, Columns columns,
+                    int radius)
 {
-    const auto *line =
-        reinterpret_cast<const QRgb *>(image.constScanLine(qBound(0, y, image.height() - 1)));
-    return line[qBound(0, x, image.width() - 1)];
-}
-
-// Averages one line of pixels, which lie \a stride apart.
-static void average(const QRgb *from, QRgb *to, qsizetype count, qsizetype stride, int radius)
-{
-    const int width = 2 * radius + 1;
-    int alpha = 0;
-    int red = 0;
-    int green = 0;
-    int blue = 0;
-    const auto add = [&](qsizetype index, int sign) {
-        const QRgb pixel = from[qBound(qsizetype(0), index, count - 1) * stride];
-        alpha += sign * qAlpha(pixel);
-        red += sign * qRed(pixel);
-        green += sign * qGreen(pixel);
-        blue += sign * qBlue(pixel);
+    std::vector<int> sums(size_t{columns});
+    const auto add = [&](int index, int sign) {
+        const uchar *bytes = from + qBound(0, index, count - 1) * stride;
+        for (size_t i = 0; i < columns; ++i)
+            sums[i] += sign * bytes[i];
     };
+    const float part = 1 / float(2 * radius + 1);
     for (int i = -radius; i <= radius; ++i)
         add(i, 1);
-    for (qsizetype i = 0; i < count; ++i) {
-        const int half = width / 2;
-        to[i * stride] = qRgba((red + half) / width, (green + half) / width, (blue + half) / width,
-                               (alpha + half) / width);
+    for (int i = 0; i < count; ++i) {
+        uchar *bytes = to + i * stride;
+        for (size_t column = 0; column < columns; ++column)
+            bytes[column] = uchar(int(float(sums[column]) * part + 0.5F));
         add(i + radius + 1, 1);
         add(i - radius, -1);
     }
+}
+
+// The colour that lies \a share parts of 256 of the way; two channels at a time.
+static QRgb blended(QRgb first, QRgb second, uint share)
+{
+    constexpr uint even = 0x00ff00ff;
+    const auto blend = [share](uint a, uint b) {
+        return (a & even) * (256 - share) + (b & even) * share + 0x00800080;
+    };
+    return (blend(first, second) >> 8 & even) | (blend(first >> 8, second >> 8) & ~even);
 }
 
 QImage Pixels::straight(const QImage &image)
@@ -63,27 +66,55 @@ QImage Pixels::blank(const QImage &image, QSize size)
     return blank;
 }
 
-QRgb Pixels::mixed(QRgb first, QRgb second, qreal share)
+QImage Pixels::withLightness(const QImage &image)
 {
-    const auto mix = [share](int a, int b) { return limited(a + (b - a) * share); };
-    return qRgba(mix(qRed(first), qRed(second)), mix(qGreen(first), qGreen(second)),
-                 mix(qBlue(first), qBlue(second)), mix(qAlpha(first), qAlpha(second)));
+    const QImage source = straight(image);
+    QImage result = blank(source, source.size().grownBy({1, 1, 1, 1}));
+    const Lines<const QRgb> from(source);
+    const Lines<QRgb> to(result);
+    inBands(result.height(), [&, width = source.width()](int first, int end) {
+        for (int y = first; y < end; ++y) {
+            const QRgb *line = from[qBound(0, y - 1, source.height() - 1)];
+            QRgb *next = to[y];
+            for (int x = -1; x <= width; ++x) {
+                const QRgb pixel = line[qBound(0, x, width - 1)];
+                *next++ = uint(qGray(pixel)) << 24 | (pixel & RGB_MASK);
+            }
+        }
+    });
+    return result;
+}
+
+void Pixels::inBands(int lines, const std::function<void(int, int)> &work)
+{
+    constexpr int band = 128;
+    if (lines <= band) {
+        work(0, lines);
+        return;
+    }
+    QThreadPool threads;
+    for (int first = 0; first < lines; first += band)
+        threads.start([&, first] { work(first, std::min(first + band, lines)); });
+    threads.waitForDone();
 }
 
 QImage Pixels::averaged(const QImage &image, QSize radius)
 {
-    QImage source = premultiplied(image);
+    const QImage source = premultiplied(image);
+    QImage across = blank(source, source.size());
     QImage result = blank(source, source.size());
-    for (int y = 0; y < source.height(); ++y) {
-        average(reinterpret_cast<const QRgb *>(source.constScanLine(y)),
-                reinterpret_cast<QRgb *>(result.scanLine(y)), source.width(), 1, radius.width());
-    }
-    source = result.copy();
-    const qsizetype stride = source.bytesPerLine() / qsizetype(sizeof(QRgb));
-    const auto *from = reinterpret_cast<const QRgb *>(source.constBits());
-    auto *to = reinterpret_cast<QRgb *>(result.bits());
-    for (int x = 0; x < source.width(); ++x)
-        average(from + x, to + x, source.height(), stride, radius.height());
+    const Lines<const uchar> from(source);
+    const Lines<uchar> between(across);
+    const Lines<uchar> to(result);
+    constexpr std::integral_constant<size_t, sizeof(QRgb)> pixel;
+    inBands(source.height(), [&](int first, int end) {
+        for (int y = first; y < end; ++y)
+            average(from[y], between[y], source.width(), pixel, pixel, radius.width());
+    });
+    inBands(source.width(), [&](int first, int end) {
+        average(between[0] + first * pixel, to[0] + first * pixel, source.height(), to.stride(),
+                size_t(end - first) * pixel, radius.height());
+    });
     return straight(result);
 }
 
@@ -95,19 +126,18 @@ QImage Pixels::blurred(const QImage &image, int radius)
     return result;
 }
 
-int Pixels::lightness(const QImage &image, int x, int y)
-{
-    return qGray(pixel(image, x, y));
-}
-
-QRgb Pixels::between(const QImage &image, QPointF place)
+QRgb Pixels::between(const Lines<const QRgb> &lines, QSize size, QPointF place)
 {
     const int x = int(std::floor(place.x()));
     const int y = int(std::floor(place.y()));
-    const qreal right = place.x() - x;
-    const qreal below = place.y() - y;
-    return mixed(mixed(pixel(image, x, y), pixel(image, x + 1, y), right),
-                 mixed(pixel(image, x, y + 1), pixel(image, x + 1, y + 1), right), below);
+    const auto right = uint((place.x() - x) * 256);
+    const auto below = uint((place.y() - y) * 256);
+    const int left = qBound(0, x, size.width() - 1);
+    const int next = qBound(0, x + 1, size.width() - 1);
+    const QRgb *upper = lines[qBound(0, y, size.height() - 1)];
+    const QRgb *lower = lines[qBound(0, y + 1, size.height() - 1)];
+    return blended(blended(upper[left], upper[next], right),
+                   blended(lower[left], lower[next], right), below);
 }
 
 } // namespace Workbench

@@ -6,26 +6,67 @@
 #include <QtCore/QPointF>
 #include <QtGui/QImage>
 
+#include <functional>
+#include <type_traits>
+
 namespace Workbench {
 
 /*!
     What picture effects are made of: operations on pictures of 32 bits a pixel. They keep what else
-    a picture holds, as its resolution.
+    a picture holds, as its resolution. What they are given to call is called from several threads.
 */
 class Pixels
 {
 public:
+    //! The lines of a picture, for several threads at a time; \a Pixel tells whether to change it.
+    template<typename Pixel>
+    class Lines
+    {
+        using Image = std::conditional_t<std::is_const_v<Pixel>, const QImage, QImage>;
+
+    public:
+        explicit Lines(Image &image)
+            : m_first(reinterpret_cast<Pixel *>(image.bits()))
+            , m_stride(image.bytesPerLine() / qsizetype(sizeof(Pixel)))
+        {
+        }
+
+        Pixel *operator[](int y) const { return m_first + y * m_stride; }
+        qsizetype stride() const { return m_stride; }
+
+    private:
+        Pixel *m_first;
+        qsizetype m_stride;
+    };
+
     //! The picture in a format in which colours are not multiplied with their opacity.
     static QImage straight(const QImage &image);
     //! The picture in a format in which colours can be averaged.
     static QImage premultiplied(const QImage &image);
+    //! The picture with the lightness of each pixel in place of its opacity, and around it a copy
+    //! of its outermost pixels; null if it is too large.
+    static QImage withLightness(const QImage &image);
     //! An empty picture of another size that is like \a image otherwise; null if it is too large.
     static QImage blank(const QImage &image, QSize size);
 
     //! The nearest value that a colour can have.
-    static int limited(qreal value) { return qBound(0, qRound(value), 255); }
+    static int limited(int value) { return qBound(0, value, 255); }
+    static int limited(qreal value) { return limited(qRound(value)); }
+
     //! The colour that lies \a share of the way from \a first to \a second, and its opacity.
-    static QRgb mixed(QRgb first, QRgb second, qreal share);
+    static QRgb mixed(QRgb first, QRgb second, qreal share)
+    {
+        const int parts = qRound(share * 0x10000);
+        const auto mix = [parts](int a, int b) {
+            return limited(a + (((b - a) * parts + 0x8000) >> 16));
+        };
+        return qRgba(mix(qRed(first), qRed(second)), mix(qGreen(first), qGreen(second)),
+                     mix(qBlue(first), qBlue(second)), mix(qAlpha(first), qAlpha(second)));
+    }
+
+    //! Calls \a work with the first of some lines and the one behind their last, until \a lines
+    //! are done.
+    static void inBands(int lines, const std::function<void(int, int)> &work);
 
     //! Calls \a colour with the colour of every pixel, which becomes what it returns; the opacity
     //! stays.
@@ -40,13 +81,16 @@ public:
     static QImage recolouredAt(const QImage &image, Colour colour)
     {
         QImage result = straight(image);
-        for (int y = 0; y < result.height(); ++y) {
-            auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
-            for (int x = 0; x < result.width(); ++x) {
-                const QRgb changed = colour(line[x], QPoint(x, y));
-                line[x] = (line[x] & 0xff000000) | (changed & RGB_MASK);
+        const Lines<QRgb> to(result);
+        inBands(result.height(), [&, width = result.width()](int first, int end) {
+            for (int y = first; y < end; ++y) {
+                QRgb *line = to[y];
+                for (int x = 0; x < width; ++x) {
+                    const QRgb changed = colour(line[x], QPoint(x, y));
+                    line[x] = (line[x] & 0xff000000) | (changed & RGB_MASK);
+                }
             }
-        }
+        });
         return result;
     }
 
@@ -62,19 +106,19 @@ public:
     {
         const QImage source = premultiplied(image);
         QImage result = blank(source, source.size());
-        for (int y = 0; y < result.height(); ++y) {
-            auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
-            for (int x = 0; x < result.width(); ++x)
-                line[x] = between(source, origin(QPointF(x, y)));
-        }
+        const Lines<const QRgb> from(source);
+        const Lines<QRgb> to(result);
+        inBands(result.height(), [&, size = result.size()](int first, int end) {
+            for (int y = first; y < end; ++y) {
+                for (int x = 0; x < size.width(); ++x)
+                    to[y][x] = between(from, size, origin(QPointF(x, y)));
+            }
+        });
         return straight(result);
     }
 
-    //! How light the pixel is; the nearest one if the place is outside of the picture.
-    static int lightness(const QImage &image, int x, int y);
-
 private:
-    static QRgb between(const QImage &image, QPointF place);
+    static QRgb between(const Lines<const QRgb> &lines, QSize size, QPointF place);
 };
 
 } // namespace Workbench

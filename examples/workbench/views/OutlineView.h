@@ -14,7 +14,7 @@ class TextDocument;
 
 /*!
     The headings of the text in front: lines marked by #, underlined lines, names in brackets, or,
-   in a text without any, the first line of every paragraph. A click goes there.
+    in a text without any, the first line of every paragraph. A click goes there.
 */
 class OutlineView : public QListWidget
 {
