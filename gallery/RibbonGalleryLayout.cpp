@@ -95,7 +95,10 @@ QLayoutItem *RibbonGalleryLayout::itemAt(int index) const
 QLayoutItem *RibbonGalleryLayout::takeAt(int index)
 {
     Q_D(RibbonGalleryLayout);
-    return index >= 0 && index < count() ? d->items.takeAt(index) : nullptr;
+    if (index < 0 || index >= count())
+        return nullptr;
+    invalidate();
+    return d->items.takeAt(index);
 }
 
 int RibbonGalleryLayout::count() const
@@ -112,10 +115,13 @@ QSize RibbonGalleryLayout::sizeHint() const
 QSize RibbonGalleryLayout::minimumSize() const
 {
     Q_D(const RibbonGalleryLayout);
-    QSize size(0, 0);
-    for (const QLayoutItem *item : d->items)
-        size = size.expandedTo(item->minimumSize());
-    return size.grownBy(contentsMargins());
+    if (!d->minimumSize.isValid()) {
+        QSize size(0, 0);
+        for (const QLayoutItem *item : d->items)
+            size = size.expandedTo(item->minimumSize());
+        d->minimumSize = size.grownBy(contentsMargins());
+    }
+    return d->minimumSize;
 }
 
 Qt::Orientations RibbonGalleryLayout::expandingDirections() const
@@ -130,6 +136,14 @@ void RibbonGalleryLayout::setGeometry(const QRect &rect)
     d->flow(rect, true);
 }
 
+void RibbonGalleryLayout::invalidate()
+{
+    Q_D(RibbonGalleryLayout);
+    d->minimumSize = {};
+    d->heights.clear();
+    QLayout::invalidate();
+}
+
 bool RibbonGalleryLayout::hasHeightForWidth() const
 {
     return true;
@@ -138,7 +152,12 @@ bool RibbonGalleryLayout::hasHeightForWidth() const
 int RibbonGalleryLayout::heightForWidth(int width) const
 {
     Q_D(const RibbonGalleryLayout);
-    return d->flow({0, 0, width, 0}, false);
+    const auto known = d->heights.constFind(width);
+    if (known != d->heights.constEnd())
+        return *known;
+    const int height = d->flow({0, 0, width, 0}, false);
+    d->heights.insert(width, height);
+    return height;
 }
 
 } // namespace Norvane

@@ -43,6 +43,7 @@ public:
     QSize minimumSize() const override;
     Qt::Orientations expandingDirections() const override;
     void setGeometry(const QRect &rect) override;
+    void invalidate() override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;
 

@@ -5,6 +5,7 @@
 
 #include "RibbonGalleryLayout.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtWidgets/QStyle>
 
@@ -26,6 +27,10 @@ public:
     int hSpacing = 0;
     int vSpacing = 0;
     RibbonGalleryLayout *q_ptr = nullptr;
+
+    // What was asked for since something changed; layouts around it ask several times.
+    mutable QSize minimumSize;
+    mutable QHash<int, int> heights;
 };
 
 } // namespace Norvane
