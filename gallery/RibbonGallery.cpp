@@ -148,6 +148,7 @@ void RibbonGalleryPrivate::openPopup()
     popup->setFixedWidth(q->width() + (height < wanted ? RibbonGalleryPopup::ScrollBarWidth : 0));
     // Items find their places before they are shown, when moving them costs nothing.
     popup->sizeContent(wanted);
+    popup->arrange();
     const QPoint corner = q->mapToGlobal(QPoint());
     popupMenu->popup(corner);
     popupMenu->move(corner);

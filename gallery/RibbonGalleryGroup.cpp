@@ -17,6 +17,8 @@ namespace {
 
 // From here on it takes longer to show items one by one than to hide and show all that are there.
 constexpr int ManyItems = 50;
+// Up to here it saves nothing that is felt not to show what is not seen.
+constexpr int FewItems = 24;
 
 } // namespace
 
@@ -29,6 +31,9 @@ RibbonGalleryGroupPrivate::RibbonGalleryGroupPrivate()
     , toBottomButton(new QPushButton)
 {
     groupFrame->setObjectName(QStringLiteral("galleryGroupFrame"));
+    QSizePolicy roomEvenIfHidden = groupFrame->sizePolicy();
+    roomEvenIfHidden.setRetainSizeWhenHidden(true);
+    groupFrame->setSizePolicy(roomEvenIfHidden);
     itemsLayout->setContentsMargins(3, 5, 3, 5);
     toTopButton->setAccessibleName(RibbonGalleryGroup::tr("Move Up"));
     toTopButton->setIcon(QIcon(QStringLiteral(":/res/toTop.svg")));
@@ -48,6 +53,11 @@ int RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
             return i;
     }
     return -1;
+}
+
+bool RibbonGalleryGroupPrivate::hasFocus() const
+{
+    return groupFrame->isAncestorOf(QApplication::focusWidget());
 }
 
 RibbonGalleryGroup::RibbonGalleryGroup(const QIcon &icon, const QString &title, QWidget *parent)
@@ -174,39 +184,50 @@ QString RibbonGalleryGroup::title() const
 bool RibbonGalleryGroup::filter(const QString &text)
 {
     Q_D(RibbonGalleryGroup);
-    QList<int> changed;
-    int shown = 0;
+    QList<RibbonGalleryItem *> changed;
     bool anyMatches = false;
-    for (int i = 0; i < count(); ++i) {
-        const bool matches = d->items[i]->text().contains(text);
+    for (RibbonGalleryItem *item : std::as_const(d->items)) {
+        const bool matches = item->text().contains(text);
         anyMatches = anyMatches || matches;
-        if (matches == d->items[i]->isHidden()) {
-            changed.append(i);
-            shown += matches ? 1 : 0;
-        }
+        if (matches == item->isHidden())
+            changed.append(item);
     }
     if (!anyMatches)
         hide();
-    // Each item that is shown or hidden would have all of them laid out.
+    if (changed.size() > ManyItems && !d->hasFocus())
+        d->groupFrame->hide();
+    // Each item that is shown would have all of them laid out.
     d->itemsLayout->setEnabled(false);
     layout()->setEnabled(false);
-    // Many are laid out before they are seen: moving them costs nothing then.
-    const bool unseen =
-        shown > ManyItems && !d->groupFrame->isAncestorOf(QApplication::focusWidget());
-    if (unseen)
-        d->groupFrame->hide();
-    for (const int index : std::as_const(changed))
-        setItemVisible(index, d->items[index]->isHidden());
+    for (RibbonGalleryItem *item : std::as_const(changed))
+        item->setVisible(item->isHidden());
     d->itemsLayout->setEnabled(true);
     layout()->setEnabled(true);
     if (!anyMatches)
         return false;
-    d->itemsLayout->activate();
-    if (unseen)
-        d->groupFrame->show();
-    layout()->activate();
+    if (!changed.isEmpty())
+        d->groupFrame->updateGeometry();
     show();
     return true;
+}
+
+void RibbonGalleryGroup::showItems(bool show)
+{
+    Q_D(RibbonGalleryGroup);
+    const bool shown = show || count() <= FewItems || d->hasFocus();
+    if (shown) {
+        // Moving them costs least before they are shown.
+        layout()->activate();
+        d->itemsLayout->activate();
+    }
+    if (shown != showsItems())
+        d->groupFrame->setVisible(shown);
+}
+
+bool RibbonGalleryGroup::showsItems() const
+{
+    Q_D(const RibbonGalleryGroup);
+    return !d->groupFrame->isHidden();
 }
 
 void RibbonGalleryGroup::updateLayout()

@@ -61,9 +61,18 @@ public:
     QString title() const;
     /*!
         Shows the items whose text contains \a text and hides the others; the group is shown if
-        there is one, which is returned, and hidden otherwise.
+        there is one, which is returned, and hidden otherwise. If many items change, their frame is
+        left hidden: showItems() follows when the group has its place.
     */
     bool filter(const QString &text);
+    /*!
+        Shows the frame with the items, which get their places first, or hides it; it keeps its
+        room then, and they stay what they are, hidden or not. The frame of few items and one that
+        has the focus is always shown.
+    */
+    void showItems(bool show);
+    //! Tells whether the items that are not hidden are shown with the group.
+    bool showsItems() const;
     //! Has the items laid out again when the event loop is reached.
     void updateLayout();
 

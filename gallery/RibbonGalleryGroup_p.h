@@ -23,6 +23,7 @@ public:
     virtual ~RibbonGalleryGroupPrivate();
 
     int indexOf(const QAction *action) const;
+    bool hasFocus() const;
 
     QList<RibbonGalleryItem *> items;
     QLabel *iconLabel;

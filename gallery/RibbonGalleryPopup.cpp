@@ -6,6 +6,7 @@
 #include "RibbonGalleryItem.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QAccessible>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -112,17 +113,54 @@ void RibbonGalleryPopupPrivate::uncollect(QAction *action)
 
 void RibbonGalleryPopupPrivate::filter(const QString &text)
 {
+    Q_Q(RibbonGalleryPopup);
     QList<RibbonGalleryGroup *> searched = groups;
     if (collectEnabled)
         searched.prepend(collectedGroup);
     contentFrame->layout()->setEnabled(false);
+    heedGestures(false);
     bool anyMatches = false;
     for (RibbonGalleryGroup *group : std::as_const(searched))
         anyMatches = group->filter(text) || anyMatches;
-    contentFrame->layout()->setEnabled(true);
     noMatchLabel->setVisible(!anyMatches);
     updateHeight();
-    contentFrame->layout()->activate();
+    contentFrame->layout()->setEnabled(true);
+    contentFrame->layout()->invalidate();
+    q->arrange();
+    heedGestures(q->isVisible());
+}
+
+// Of every event of every widget on a widget that heeds gestures Qt finds out whether it is part of
+// one, which takes as long as all else that becomes of the events of an item that is hidden or
+// shown.
+void RibbonGalleryPopupPrivate::heedGestures(bool heed)
+{
+    Q_Q(RibbonGalleryPopup);
+    if (heed)
+        q->viewport()->grabGesture(Qt::PanGesture);
+    else
+        q->viewport()->ungrabGesture(Qt::PanGesture);
+}
+
+// Showing and hiding thousands of items takes longer than all else that a search does, so those are
+// shown that stand on the page that is seen and on the pages before and after it.
+void RibbonGalleryPopupPrivate::showNearItems()
+{
+    Q_Q(RibbonGalleryPopup);
+    if (!contentFrame->layout()->isEnabled())
+        return;
+    const QSize page = q->viewport()->size();
+    const QRect pages(-contentFrame->pos() - QPoint(0, page.height()),
+                      page + QSize(0, 2 * page.height()));
+    const auto show = [&](RibbonGalleryGroup *group) {
+        const bool near = !group->isHidden() && pages.intersects(group->geometry());
+        // What was seen stays as long as the popup is open; assistive tools look everywhere.
+        const bool stays = q->isVisible() && group->showsItems();
+        group->showItems(near || stays || QAccessible::isActive());
+    };
+    show(collectedGroup);
+    for (RibbonGalleryGroup *group : std::as_const(groups))
+        show(group);
 }
 
 int RibbonGalleryPopupPrivate::estimate(const RibbonGalleryGroup *group) const
@@ -175,6 +213,7 @@ RibbonGalleryPopup::RibbonGalleryPopup(RibbonGalleryPopupPrivate &dd, QWidget *p
             [d](const QString &text) { d->filter(text); });
     d->contentFrame->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     setWidget(d->contentFrame);
+    d->heedGestures(false);
     connect(d->closeButton, &QPushButton::clicked, this, [this] {
         if (parentWidget())
             parentWidget()->close();
@@ -290,22 +329,50 @@ void RibbonGalleryPopup::sizeContent(int contentHeight)
     d->contentFrame->setFixedSize(qMax(0, width() - barWidth), contentHeight);
 }
 
+void RibbonGalleryPopup::arrange()
+{
+    Q_D(RibbonGalleryPopup);
+    d->contentFrame->layout()->activate();
+    d->showNearItems();
+}
+
 QByteArray RibbonGalleryPopup::saveState() const
 {
     Q_D(const RibbonGalleryPopup);
     return d->displayCount == 0 ? QByteArrayLiteral("AAAA") : QByteArray();
 }
 
+// The scroll area watches its content.
+bool RibbonGalleryPopup::eventFilter(QObject *watched, QEvent *event)
+{
+    Q_D(RibbonGalleryPopup);
+    const bool done = QScrollArea::eventFilter(watched, event);
+    const QEvent::Type type = event->type();
+    if (watched == d->contentFrame
+        && (type == QEvent::Move || type == QEvent::Resize || type == QEvent::LayoutRequest))
+        d->showNearItems();
+    return done;
+}
+
+void RibbonGalleryPopup::resizeEvent(QResizeEvent *event)
+{
+    Q_D(RibbonGalleryPopup);
+    QScrollArea::resizeEvent(event);
+    d->showNearItems();
+}
+
 void RibbonGalleryPopup::showEvent(QShowEvent *event)
 {
     Q_D(RibbonGalleryPopup);
     d->updateHeight();
+    d->heedGestures(true);
     QScrollArea::showEvent(event);
 }
 
 void RibbonGalleryPopup::hideEvent(QHideEvent *event)
 {
     Q_D(RibbonGalleryPopup);
+    d->heedGestures(false);
     d->searchEdit->clear();
     // Before the first group comes, the label is a window of its own.
     if (d->noMatchLabel->isWindow())

@@ -70,6 +70,9 @@ public:
     */
     void sizeContent(int contentHeight);
 
+    //! Lays out the content and shows the items that are near to what is seen of it.
+    void arrange();
+
     //! "AAAA" if the display count is 0, else nothing.
     QByteArray saveState() const;
 
@@ -84,6 +87,8 @@ Q_SIGNALS:
 protected:
     RibbonGalleryPopup(RibbonGalleryPopupPrivate &dd, QWidget *parent);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

@@ -28,6 +28,8 @@ public:
     void collect(QAction *action, bool collected);
     void uncollect(QAction *action);
     void filter(const QString &text);
+    void heedGestures(bool heed);
+    void showNearItems();
     int estimate(const RibbonGalleryGroup *group) const;
     void updateHeight();
 

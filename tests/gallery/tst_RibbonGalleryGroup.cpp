@@ -48,6 +48,8 @@ private Q_SLOTS:
     void neverTellsOfCollecting();
     void filtersFewAndMany_data();
     void filtersFewAndMany();
+    void hidesItsManyItems();
+    void showsItemsThatHaveTheFocus();
     void keepsTheFocusWhileItFilters();
     void hasItsSheetsColours();
 };
@@ -497,8 +499,10 @@ void tst_RibbonGalleryGroup::filtersFewAndMany()
     for (const QString &from : texts) {
         for (const QString &to : texts) {
             window.group->filter(from);
+            window.group->showItems(true);
             int place = 0;
             const bool any = window.group->filter(to);
+            window.group->showItems(true);
             for (int i = 0; i < count; ++i) {
                 const bool matches = u"Item %1"_s.arg(i).contains(to);
                 QCOMPARE(window.group->item(i)->isHidden(), !matches);
@@ -514,6 +518,56 @@ void tst_RibbonGalleryGroup::filtersFewAndMany()
             QVERIFY(!window.frame()->isHidden());
         }
     }
+}
+
+void tst_RibbonGalleryGroup::hidesItsManyItems()
+{
+    Window window;
+    for (int i = 0; i < 24; ++i)
+        window.add();
+    QVERIFY(window.open());
+    window.group->showItems(false);
+    QVERIFY(window.group->showsItems());
+    QVERIFY(window.group->item(0)->isVisible());
+
+    window.add();
+    QCoreApplication::processEvents();
+    const int height = window.group->heightForWidth(300);
+    const QRect frame = window.frame()->geometry();
+    window.group->showItems(false);
+    QVERIFY(!window.group->showsItems());
+    for (int i = 0; i < 25; ++i) {
+        QVERIFY(!window.group->item(i)->isHidden());
+        QVERIFY(!window.group->item(i)->isVisible());
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(window.group->heightForWidth(300), height);
+    QCOMPARE(window.frame()->geometry(), frame);
+
+    window.group->setItemVisible(0, false);
+    window.add();
+    window.group->showItems(true);
+    QVERIFY(window.group->showsItems());
+    QVERIFY(!window.group->item(0)->isVisible());
+    for (int i = 1; i < 26; ++i) {
+        QVERIFY(window.group->item(i)->isVisible());
+        QCOMPARE(window.place(i), cell((i - 1) % 3, (i - 1) / 3));
+    }
+}
+
+void tst_RibbonGalleryGroup::showsItemsThatHaveTheFocus()
+{
+    Window window;
+    for (int i = 0; i < 25; ++i)
+        window.add();
+    QVERIFY(window.open());
+    window.group->item(7)->setFocus();
+    window.group->showItems(false);
+    QVERIFY(window.group->showsItems());
+    QVERIFY(window.group->item(7)->hasFocus());
+    window.group->item(7)->clearFocus();
+    window.group->showItems(false);
+    QVERIFY(!window.group->showsItems());
 }
 
 void tst_RibbonGalleryGroup::keepsTheFocusWhileItFilters()

@@ -53,6 +53,10 @@ private Q_SLOTS:
     void searchIsClearedWhenItCloses();
     void searchOfAnEmptyCatalogue();
 
+    void showsItemsNearby();
+    void lacksNoItemThatIsSeen_data();
+    void lacksNoItemThatIsSeen();
+
     void updatesTheStripAfterItIsHidden();
     void collectsACopy();
     void collectsACopyForEachTime();
@@ -130,6 +134,30 @@ public:
 private:
     std::function<void()> m_tell;
 };
+
+// The first item that should be seen and is not, or that is not where it should be.
+QString notSeen(const GalleryWindow &window)
+{
+    const QRect page = window.popup()->viewport()->rect();
+    for (const RibbonGalleryGroup *group : window.groups()) {
+        const int columns = (group->width() - 6) / 90;
+        int place = 0;
+        for (int i = 0; i < group->count() && group->isVisible(); ++i) {
+            const RibbonGalleryItem *item = group->item(i);
+            if (item->isHidden())
+                continue;
+            const QRect cell(3 + place % columns * 90, 24 + 5 + place / columns * 60, 90, 60);
+            const QPoint corner = group->mapTo(window.popup()->viewport(), QPoint());
+            if (page.intersects(cell.translated(corner))
+                && (!item->isVisible()
+                    || QRect(item->mapTo(group, QPoint()), item->size()) != cell)) {
+                return u"%1 of group %2"_s.arg(i).arg(group->title());
+            }
+            ++place;
+        }
+    }
+    return {};
+}
 
 bool isMarked(const RibbonGalleryItem *item)
 {
@@ -824,6 +852,103 @@ void tst_RibbonGalleryPopup::searchOfAnEmptyCatalogue()
     QVERIFY(label->isVisible());
     QVERIFY(window.menu()->isVisible());
     window.menu()->close();
+}
+
+void tst_RibbonGalleryPopup::showsItemsNearby()
+{
+    GalleryWindow window;
+    for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s})
+        window.add(title, texts(100));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    // 24 pixels of title and 17 rows.
+    constexpr int groupHeight = 24 + 5 + 17 * 60 + 5;
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(window.group(i)->y(), window.group(0)->y() + i * groupHeight);
+        QVERIFY(window.group(i)->isVisible());
+        QVERIFY(!window.item(i, 99)->isHidden());
+        // The last two are more than a page away.
+        QCOMPARE(window.item(i, 99)->isVisible(), i < 2);
+    }
+
+    window.popup()->verticalScrollBar()->setValue(window.group(2)->y());
+    QVERIFY(window.item(2, 0)->isVisible());
+    // What was shown once is not hidden again while it may be scrolled back to.
+    QVERIFY(window.item(0, 0)->isVisible());
+    QSignalSpy triggered(window.gallery, &RibbonGallery::signalTriggered);
+    Gui::click(window.item(2, 7));
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(!window.menu()->isVisible());
+
+    QVERIFY(window.openPopup());
+    QVERIFY(window.item(0, 0)->isVisible());
+    QVERIFY(!window.item(2, 7)->isVisible());
+    window.search(u"Item 9"_s);
+    for (int i = 0; i < 4; ++i) {
+        QVERIFY(window.item(i, 99)->isVisible());
+        QVERIFY(window.item(i, 8)->isHidden());
+    }
+    window.search(QString());
+    for (int i = 0; i < 4; ++i) {
+        QVERIFY(!window.item(i, 8)->isHidden());
+        QCOMPARE(window.item(i, 99)->isVisible(), i < 2);
+    }
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int seed = 0; seed < 4; ++seed)
+        QTest::addRow("%d", seed) << seed;
+}
+
+// Whatever is searched, scrolled, collected, moved and added: what is to be seen of the popup is
+// there, each item in its place.
+void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen()
+{
+    QFETCH(int, seed);
+    QRandomGenerator random(seed);
+    GalleryWindow window;
+    for (int group = 0; group < 6; ++group)
+        window.add(QString::number(group), texts(int(random.bounded(80))));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    for (int step = 0; step < 40; ++step) {
+        const int group = int(random.bounded(6));
+        switch (random.bounded(8)) {
+        case 0:
+        case 1:
+            window.edit()->setText(random.bounded(2) ? QString() : QString::number(group));
+            break;
+        case 2:
+        case 3:
+            window.popup()->verticalScrollBar()->setValue(
+                int(random.bounded(window.popup()->verticalScrollBar()->maximum() + 1)));
+            break;
+        case 4:
+            window.gallery->setItemCollected(group, int(random.bounded(80)), random.bounded(3));
+            break;
+        case 5:
+            if (random.bounded(2))
+                GalleryWindow::toTopOf(window.group(group))->click();
+            else
+                GalleryWindow::toBottomOf(window.group(group))->click();
+            break;
+        case 6:
+            for (const QString &text : texts(int(random.bounded(40))))
+                window.gallery->addItem(group, window.createAction(text));
+            break;
+        default:
+            window.closePopup();
+            QVERIFY(window.openPopup());
+            break;
+        }
+        QCoreApplication::processEvents();
+        const QString wrong = notSeen(window);
+        QVERIFY2(wrong.isEmpty(), qPrintable(u"step %1: %2"_s.arg(step).arg(wrong)));
+    }
+    window.closePopup();
 }
 
 void tst_RibbonGalleryPopup::updatesTheStripAfterItIsHidden()
