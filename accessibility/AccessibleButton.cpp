@@ -34,8 +34,10 @@ AccessibleButton::AccessibleButton(QAbstractButton *button, QAccessible::Role ro
 
 QString AccessibleButton::text(QAccessible::Text kind) const
 {
-    if (kind == QAccessible::Name && widget()->accessibleName().isEmpty())
-        return inOneLine(button()->text());
+    if (kind == QAccessible::Name && widget()->accessibleName().isEmpty()) {
+        const QString text = inOneLine(button()->text());
+        return text.isEmpty() ? button()->property("label").toString() : text;
+    }
     if (kind == QAccessible::Accelerator && action())
         return action()->shortcut().toString(QKeySequence::NativeText);
     return QAccessibleWidget::text(kind);

@@ -28,6 +28,7 @@ QAccessibleInterface *createAccessible(const QString &className, QObject *object
         {u"Norvane::RibbonButton"_s, QAccessible::Button},
         {u"Norvane::RibbonGalleryGroup"_s, QAccessible::Grouping},
         {u"Norvane::RibbonGalleryItem"_s, QAccessible::Button},
+        {u"Norvane::RibbonGalleryMarker"_s, QAccessible::CheckBox},
         {u"Norvane::DockPanel"_s, QAccessible::ToolBar},
         {u"Norvane::DockButton"_s, QAccessible::Button},
         {u"Norvane::AddressStrip"_s, QAccessible::ToolBar},

@@ -68,9 +68,8 @@ RibbonGalleryItem::RibbonGalleryItem(RibbonGalleryItemPrivate &dd, QAction *acti
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIconSize({24, 24});
     setDefaultAction(action);
-    d->collectButton = new LazyToolButton(this);
+    d->collectButton = new RibbonGalleryMarker(this);
     d->collectButton->setObjectName(QStringLiteral("collectedButton"));
-    d->collectButton->setAccessibleName(tr("Collect"));
     d->collectButton->setCheckable(true);
     d->collectButton->setIconSize({16, 16});
     connect(

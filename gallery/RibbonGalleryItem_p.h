@@ -7,6 +7,22 @@
 
 namespace Norvane {
 
+/*!
+    The marker. Its name is found by its accessible interface: to set an accessible name makes such
+   an interface at once, which takes longer than to make the marker, and hardly one is ever asked
+   for.
+*/
+class RibbonGalleryMarker : public LazyToolButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QString label READ label CONSTANT)
+
+public:
+    using LazyToolButton::LazyToolButton;
+
+    QString label() const { return RibbonGalleryItem::tr("Collect"); }
+};
+
 class RibbonGalleryItemPrivate
 {
     Q_DECLARE_PUBLIC(RibbonGalleryItem)
@@ -19,7 +35,7 @@ public:
     void apply();
     void showCollectButton();
 
-    LazyToolButton *collectButton = nullptr;
+    RibbonGalleryMarker *collectButton = nullptr;
     bool collected = false;
     bool collectEnabled = false;
     RibbonGalleryItem *q_ptr = nullptr;
