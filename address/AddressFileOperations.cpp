@@ -3,6 +3,8 @@
 
 #include "AddressFileOperations.h"
 
+#include "AddressFolder.h"
+
 #include <QtCore/QDebug>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -12,8 +14,6 @@
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
-
-#include <filesystem>
 
 namespace Norvane {
 
@@ -45,36 +45,6 @@ bool isSame(const QFileInfo &one, const QFileInfo &other)
 bool isInside(const QString &path, const QString &folder)
 {
     return path == folder || path.startsWith(folder + u'/');
-}
-
-struct Names
-{
-    QStringList files;
-    QStringList folders;
-    bool complete = true;
-};
-
-// What is not hidden in a folder. QDir leaves out not only the names that it cannot decode, but
-// all that come after one.
-Names namesIn(const QDir &folder)
-{
-    Names names;
-    std::error_code error;
-    std::filesystem::directory_iterator it(folder.filesystemPath(), error);
-    for (; !error && it != std::filesystem::directory_iterator(); it.increment(error)) {
-        const QFileInfo info(it->path());
-        if (info.filesystemFilePath() != it->path())
-            names.complete = false;
-        else if (info.isHidden())
-            continue;
-        else if (info.isFile())
-            names.files << info.fileName();
-        else if (info.isDir())
-            names.folders << info.fileName();
-    }
-    names.files.sort(Qt::CaseInsensitive);
-    names.folders.sort(Qt::CaseInsensitive);
-    return names;
 }
 
 QString freeName(const QString &path)
@@ -304,7 +274,9 @@ void AddressFileOperations::copyFolder(const QString &source, const QString &tar
     m_entered.append(QFileInfo(source).canonicalFilePath());
     const QDir from(source);
     const QDir to(target);
-    const Names names = namesIn(from);
+    auto names = AddressFolder::names(source, AddressFolder::Wanted::FilesAndFolders);
+    names.files.sort(Qt::CaseInsensitive);
+    names.folders.sort(Qt::CaseInsensitive);
     if (!names.complete)
         showError(Unknown, source, target);
     for (const QString &name : names.files)

@@ -3,8 +3,9 @@
 
 #include "AddressPath.h"
 
+#include "AddressFolder.h"
+
 #include <QtCore/QDir>
-#include <QtCore/QDirListing>
 #include <QtCore/QRegularExpression>
 
 namespace Norvane::AddressPath {
@@ -62,11 +63,7 @@ QStringList children(const QString &path, Style style)
             names << driveName(drive.absoluteDir().path());
         return names;
     }
-    // QDir::entryList() gives the same names in the same order, and takes twice the time.
-    using Flag = QDirListing::IteratorFlag;
-    QStringList names;
-    for (const auto &entry : QDirListing(folder(path), Flag::DirsOnly | Flag::ResolveSymlinks))
-        names << entry.fileName();
+    QStringList names = AddressFolder::names(folder(path), AddressFolder::Wanted::Folders).folders;
     names.sort();
     return names;
 }

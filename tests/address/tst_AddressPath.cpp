@@ -11,6 +11,9 @@
 
 #ifdef Q_OS_UNIX
 #    include "Unprivileged.h"
+
+#    include <sys/stat.h>
+#    include <unistd.h>
 #endif
 
 using namespace Norvane;
@@ -40,6 +43,8 @@ private Q_SLOTS:
     void readsTypedText();
 
     void listsFoldersAsQDirDoes();
+    void listsWhatComesAfterANameThatCannotBeDecoded();
+    void listsWhatOnlyQtFinds();
     void listsNothingWhereNothingCanBeRead();
     void listsTheFoldersOfTheRoot();
     void listsDrives();
@@ -285,6 +290,49 @@ void tst_AddressPath::listsFoldersAsQDirDoes()
     const QStringList listed = AddressPath::children(temporary.path(), AddressPath::nativeStyle());
     QCOMPARE(listed.size(), names.size() + 1);
     QCOMPARE(listed, folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
+}
+
+void tst_AddressPath::listsWhatComesAfterANameThatCannotBeDecoded()
+{
+#ifdef Q_OS_LINUX
+    const QTemporaryDir temporary;
+    const QDir folder(temporary.path());
+    const auto undecodable = [&](int i) -> QByteArray {
+        return QFile::encodeName(temporary.path()) + "/\xff" + QByteArray::number(i);
+    };
+    QStringList names;
+    // Some come before it and some after it, in whatever order the folder has.
+    for (int i = 0; i < 200; ++i) {
+        names << QStringLiteral("%1").arg(i, 3, 10, QChar(u'0'));
+        QVERIFY(folder.mkdir(names.constLast()));
+        QVERIFY(::mkdir(undecodable(i).constData(), 0700) == 0);
+    }
+    // This is a name, not what stands for one that cannot be decoded.
+    names << QStringLiteral("\uFFFD");
+    QVERIFY(folder.mkdir(names.constLast()));
+    QCOMPARE(AddressPath::children(temporary.path(), Root), names);
+    // The temporary folder cannot remove them.
+    for (int i = 0; i < 200; ++i)
+        QVERIFY(::rmdir(undecodable(i).constData()) == 0);
+#else
+    QSKIP("Every name can be decoded here");
+#endif
+}
+
+void tst_AddressPath::listsWhatOnlyQtFinds()
+{
+    const QStringList folders = AddressPath::children(QStringLiteral(":"), Root);
+    QVERIFY(folders.contains(QStringLiteral("res")));
+    QCOMPARE(folders,
+             QDir(QStringLiteral(":/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
+    const QTemporaryDir temporary;
+    QVERIFY(QDir(temporary.path()).mkpath(QStringLiteral("a/b")));
+    const QString prefix = QStringLiteral("found");
+    QDir::setSearchPaths(prefix, {QStringLiteral(":/"), temporary.path()});
+    QCOMPARE(AddressPath::children(QStringLiteral("found:."), Root), folders);
+    QCOMPARE(AddressPath::children(QStringLiteral("found:a"), Root),
+             QStringList{QStringLiteral("b")});
+    QDir::setSearchPaths(prefix, {});
 }
 
 void tst_AddressPath::listsNothingWhereNothingCanBeRead()
