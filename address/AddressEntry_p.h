@@ -26,6 +26,7 @@ public:
     QSize measure();
     void setArrowHovered(bool on);
     void createMenu(const QStringList &names, const QIcon &icon);
+    void limitMenu() const;
     void placeMenu() const;
 
     void paintBackground(QPainter &painter) const;

@@ -11,7 +11,7 @@
 #include <QtCore/QMetaMethod>
 #include <QtGui/QScreen>
 #include <QtTest/QSignalSpy>
-#include <QtWidgets/QStyle>
+#include <QtWidgets/QProxyStyle>
 
 #include <memory>
 
@@ -46,13 +46,17 @@ private Q_SLOTS:
     void pickedFolderIsReported();
     void folderInTheRootIsReported();
     void menuThatIsClosedReportsNothing();
+    void menuTellsOfItsActions();
     void menuOpensAgain();
     void reportMayDeleteTheCrumb_data();
     void reportMayDeleteTheCrumb();
 
     void menuOpensUnderTheArrow();
     void menuStaysOnTheScreen();
+    void menuTakesTheRoomThatItNeeds_data();
+    void menuTakesTheRoomThatItNeeds();
     void longMenuIsOneColumnThatScrolls();
+    void longMenuMeasuresItsActionsNoMoreOftenThanAnother();
     void menuOpensUnderTheRootWhereQtPutsIt();
     void showOfTheMenuIsConsumed();
     void tearOffMenuIsHidden();
@@ -478,6 +482,37 @@ void tst_AddressEntry::menuThatIsClosedReportsNothing()
     QCOMPARE(clicks.count(), 0);
 }
 
+void tst_AddressEntry::menuTellsOfItsActions()
+{
+    const Folders folders({QStringLiteral("a"), QStringLiteral("b")});
+    AddressEntry entry;
+    entry.setPath(folders.path());
+    QMenu *menu = entry.menu();
+    QAction *b = menu->actions().constLast();
+    QSignalSpy hovers(menu, &QMenu::hovered);
+    QSignalSpy picks(menu, &QMenu::triggered);
+    const QSignalSpy clicks(&entry, &AddressEntry::signalClicked);
+    // As assistive tools do, without a menu that is seen.
+    b->hover();
+    QCOMPARE(hovers.count(), 1);
+    QCOMPARE(qvariant_cast<QAction *>(hovers.takeFirst().constFirst()), b);
+    QCOMPARE(picks.count(), 0);
+    b->trigger();
+    QCOMPARE(picks.count(), 1);
+    QCOMPARE(qvariant_cast<QAction *>(picks.takeFirst().constFirst()), b);
+    QCOMPARE(clicks.count(), 1);
+    QCOMPARE(clicks.constFirst(), QVariantList{folders.path(QStringLiteral("b"))});
+    menu->removeAction(b);
+    b->hover();
+    b->trigger();
+    menu->addAction(b);
+    b->hover();
+    b->trigger();
+    QCOMPARE(hovers.count(), 1);
+    QCOMPARE(picks.count(), 1);
+    QCOMPARE(clicks.count(), 2);
+}
+
 void tst_AddressEntry::menuOpensAgain()
 {
     Fixture f;
@@ -552,6 +587,48 @@ void tst_AddressEntry::menuStaysOnTheScreen()
     QCOMPARE(geometry.size(), f.split.entry->menu()->sizeHint());
 }
 
+void tst_AddressEntry::menuTakesTheRoomThatItNeeds_data()
+{
+    QTest::addColumn<bool>("root");
+    QTest::addColumn<double>("crumb");
+    QTest::addColumn<double>("actions");
+    QTest::addColumn<double>("top");
+    QTest::addColumn<double>("bottom");
+    // In heights of the screen.
+    QTest::newRow("fits below") << false << 0.25 << 0.5 << 0.25 << 0.75;
+    QTest::newRow("fits on the screen") << false << 0.25 << 0.85 << 0.15 << 1.0;
+    QTest::newRow("too long") << false << 0.25 << 1.5 << 0.25 << 1.0;
+    QTest::newRow("too long for little room") << false << 0.6 << 1.5 << 0.0 << 1.0;
+    QTest::newRow("root's, too long") << true << 0.25 << 1.5 << 0.0 << 1.0;
+}
+
+void tst_AddressEntry::menuTakesTheRoomThatItNeeds()
+{
+    QFETCH(bool, root);
+    QFETCH(double, crumb);
+    QFETCH(double, actions);
+    const Folders folders({QStringLiteral("a")});
+    Window window(QString(), root ? QString() : folders.path());
+    const QRect screen = window.screen()->availableGeometry();
+    QMenu *menu = window.entry->menu();
+    const int height = menu->actionGeometry(menu->actions().constFirst()).height();
+    QVERIFY(height > 0);
+    menu->clear();
+    for (int i = 0; i < int(screen.height() * actions / height); ++i)
+        menu->addAction(QString::number(i));
+    QVERIFY(window.open());
+    window.move(0, screen.top() + int(screen.height() * crumb) - window.entry->geometry().bottom());
+    QRect geometry;
+    QVERIFY(openMenu(&window, [&] { geometry = menu->geometry(); }));
+    const auto isAbout = [&screen, height](int value, double part) {
+        return qAbs(value - screen.height() * part) <= height;
+    };
+    QFETCH(double, top);
+    QVERIFY(isAbout(geometry.top() - screen.top(), top));
+    QFETCH(double, bottom);
+    QVERIFY(isAbout(geometry.bottom() - screen.top(), bottom));
+}
+
 void tst_AddressEntry::longMenuIsOneColumnThatScrolls()
 {
     Folders folders;
@@ -579,9 +656,47 @@ void tst_AddressEntry::longMenuIsOneColumnThatScrolls()
     QVERIFY(screen.contains(geometry));
     QCOMPARE(geometry.topLeft(), window.entry->mapToGlobal(QPoint(window.textPart(), 22)));
     QVERIFY(geometry.height() > screen.height() / 2);
+    QCOMPARE(geometry.bottom(), screen.bottom());
     QVERIFY(last.bottom() < screen.height());
     QCOMPARE(clicks.count(), 1);
     QCOMPARE(clicks.at(0), QVariantList{folders.path(QStringLiteral("299"))});
+}
+
+void tst_AddressEntry::longMenuMeasuresItsActionsNoMoreOftenThanAnother()
+{
+    class Style : public QProxyStyle
+    {
+    public:
+        QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                               const QWidget *widget) const override
+        {
+            measured += type == CT_MenuItem ? 1 : 0;
+            return QProxyStyle::sizeFromContents(type, option, size, widget);
+        }
+
+        mutable int measured = 0;
+    };
+    constexpr int count = 300;
+    Folders folders;
+    for (int i = 0; i < count; ++i)
+        folders.make(QString::number(i));
+    Style style;
+    Window window(blocks(3), folders.path());
+    window.entry->menu()->setStyle(&style);
+    // Twice: a change of what was done for the first time must not remain.
+    for (int i = 0; i < 2; ++i) {
+        window.move(0, 50 * i);
+        QVERIFY(window.open());
+        style.measured = 0;
+        QRect geometry;
+        QVERIFY(openMenu(&window, [&] { geometry = window.entry->menu()->geometry(); }));
+        // For its place, when that is known, and for the size that it gets.
+        QCOMPARE_LE(style.measured, 3 * count);
+        QCOMPARE_GE(style.measured, count);
+        QCOMPARE(geometry.top(), window.entry->mapToGlobal(QPoint(0, 22)).y());
+        QCOMPARE(geometry.bottom(), window.screen()->availableGeometry().bottom());
+        QCOMPARE(window.entry->menu()->maximumHeight(), QWIDGETSIZE_MAX);
+    }
 }
 
 void tst_AddressEntry::menuOpensUnderTheRootWhereQtPutsIt()
