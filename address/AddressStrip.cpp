@@ -97,17 +97,25 @@ void AddressStripPrivate::rebuild(int index)
         q->clearFocus();
         q->clear();
     }
-    // All are laid out at once: a strip that is seen would do so for every crumb that it shows.
-    q->layout()->setEnabled(false);
+    // Before the layout does so one by one, and is activated by each.
+    QMetaObject::invokeMethod(q, [this] { showCrumbs(); }, Qt::QueuedConnection);
     addRootIcon();
     addEntry(QString(), QString());
     const QList<AddressPath::Crumb> crumbs = AddressPath::crumbs(path, AddressPath::nativeStyle());
     for (const AddressPath::Crumb &crumb : crumbs)
         addEntry(crumb.label, crumb.path);
-    q->layout()->setEnabled(true);
-    q->layout()->activate();
     updateButtons();
     Q_EMIT q->signalPathChanged(QString(path));
+}
+
+void AddressStripPrivate::showCrumbs()
+{
+    Q_Q(AddressStrip);
+    q->layout()->setEnabled(false);
+    for (int i = 0; i < q->layout()->count(); ++i)
+        q->layout()->itemAt(i)->widget()->show();
+    q->layout()->setEnabled(true);
+    q->layout()->activate();
 }
 
 void AddressStripPrivate::addRootIcon()
@@ -124,7 +132,6 @@ void AddressStripPrivate::addRootIcon()
     label->setFixedSize(size, size);
     label->setMargin(margin);
     q->layout()->addWidget(label);
-    label->show();
 }
 
 void AddressStripPrivate::addEntry(const QString &text, const QString &path)
@@ -136,7 +143,6 @@ void AddressStripPrivate::addEntry(const QString &text, const QString &path)
     entry->setFocusPolicy(Qt::NoFocus);
     entry->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     q->layout()->addWidget(entry);
-    entry->show();
     QObject::connect(entry, &AddressEntry::signalClicked, q, &AddressStrip::setPath);
 }
 

@@ -27,6 +27,7 @@ public:
     void rebuild(int index);
     void addRootIcon();
     void addEntry(const QString &text, const QString &path);
+    void showCrumbs();
     void clearCrumbs();
     void updateButtons();
     void commit();

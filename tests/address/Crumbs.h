@@ -6,7 +6,10 @@
 #include <address/AddressEntry.h>
 #include <address/AddressStrip.h>
 
+#include <QtTest/QTest>
 #include <QtWidgets/QLayout>
+
+#include <algorithm>
 
 inline QList<Norvane::AddressEntry *> entriesOf(const Norvane::AddressStrip *strip)
 {
@@ -27,6 +30,16 @@ inline QStringList crumbsOf(const Norvane::AddressStrip *strip)
     for (const Norvane::AddressEntry *entry : entries)
         texts << entry->text();
     return texts.mid(1);
+}
+
+//! Crumbs are shown when control returns to the event loop.
+inline bool waitForCrumbs(const Norvane::AddressStrip *strip)
+{
+    return QTest::qWaitFor([strip] {
+        const QList<Norvane::AddressEntry *> entries = entriesOf(strip);
+        return std::all_of(entries.begin(), entries.end(),
+                           [](const Norvane::AddressEntry *entry) { return entry->isVisible(); });
+    });
 }
 
 inline bool isEditing(const Norvane::AddressStrip *strip)

@@ -459,6 +459,7 @@ void tst_AddressBar::followsCrumbs()
     Window window;
     QVERIFY(window.open());
     window.bar->setPath(folders.path(QStringLiteral("a/b")));
+    QVERIFY(waitForCrumbs(window.strip));
     const QSignalSpy changes(window.bar, &AddressBar::signalPathChanged);
     AddressEntry *a = entriesOf(window.strip).at(entriesOf(window.strip).size() - 2);
     const QPoint arrow(a->width() - 4, 11);
