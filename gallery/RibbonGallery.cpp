@@ -94,6 +94,9 @@ void RibbonGalleryPrivate::refresh()
     if (displays(actions))
         return;
     displayedActions = actions;
+    // Each cell that is shown would have all of them laid out.
+    QWidget *frame = itemsLayout->parentWidget();
+    frame->hide();
     for (RibbonGalleryItem *item : std::as_const(items)) {
         itemsLayout->removeWidget(item);
         delete item;
@@ -111,6 +114,7 @@ void RibbonGalleryPrivate::refresh()
     const qsizetype missing = displayCount - actions.size();
     for (qsizetype i = 0; i < qMin<qsizetype>(missing, MaximumPlaceholders); ++i)
         addPlaceholder();
+    frame->show();
 }
 
 void RibbonGalleryPrivate::addPlaceholder()

@@ -58,6 +58,11 @@ void GallerySubject::setCollected(int group, int item, bool collected)
     m_gallery->setItemCollected(group, item, collected);
 }
 
+void GallerySubject::setCellCount(int count)
+{
+    m_gallery->setDispalyCount(count);
+}
+
 void GallerySubject::moveFirstGroup()
 {
     const QList<QPushButton *> buttons = popup()->findChildren<QPushButton *>();

@@ -24,6 +24,7 @@ public:
     // Does what a marker's click does.
     void setCollected(int group, int item, bool collected);
     // Clicks the button that moves the group at the top to the bottom.
+    void setCellCount(int count);
     void moveFirstGroup();
     // Has the gallery look whether its strip still shows the right actions.
     void refreshStrip();

@@ -100,6 +100,22 @@ void measureGallery(GallerySubject *subject, Recorder *recorder)
     recorder->measure(QStringLiteral("refresh"), 1000, [&](int) { subject->refreshStrip(); });
 }
 
+// A strip that is made anew with all its cells empty but one.
+void measureCells(const QList<GroupActions> &groups, Recorder *recorder)
+{
+    for (const int count : {100, 1000}) {
+        GallerySubject subject;
+        subject.window()->show();
+        settle();
+        subject.setCellCount(count);
+        subject.fill({{groups.constFirst().constFirst()}});
+        recorder->measure(QStringLiteral("%1 cells").arg(count), 1, [&](int) {
+            subject.refreshStrip();
+            settle();
+        });
+    }
+}
+
 void run(const QString &side, const QList<GroupActions> &groups, bool filledFirst,
          const QString &picture, Recorder *recorder)
 {
@@ -150,6 +166,8 @@ void run(const QString &side, const QList<GroupActions> &groups, bool filledFirs
         measureGallery(gallery, recorder);
     type(*subject, Qt::Key_A, QStringLiteral("x"));
     recorder->measure(QStringLiteral("searched close"), 1, close);
+    if (side == QStringLiteral("gallery"))
+        measureCells(groups, recorder);
 }
 
 } // namespace
