@@ -40,6 +40,9 @@ private Q_SLOTS:
     void makesATextDocumentInTheChosenFolder();
     void saysThatNoTextCanBeMade();
     void keepsItsKeysToItself();
+    void selectsAllFiles();
+    void tellsKindsOfFilesApart();
+    void doesNotLookIntoFiles();
 };
 
 namespace {
@@ -392,6 +395,61 @@ void tst_FilesView::keepsItsKeysToItself()
     window.editor()->setFocus();
     window.key(Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), u"text"_s);
+}
+
+void tst_FilesView::selectsAllFiles()
+{
+    const Files files;
+    const QString a = files.write(u"a.txt"_s, "text");
+    files.write(u"b.txt"_s, "other text");
+    const FilesWindow window(files);
+    window.doubleClickFile(a);
+    window.clickFile(a);
+    window.key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(window.tree->selectionModel()->selectedRows().size(), 2);
+    QVERIFY(!window.editor()->textCursor().hasSelection());
+
+    // In the text they are the text's lines.
+    window.editor()->setFocus();
+    window.key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(window.editor()->textCursor().selectedText(), u"text"_s);
+}
+
+void tst_FilesView::tellsKindsOfFilesApart()
+{
+    const Files files;
+    files.write(u"a.txt"_s, "text");
+    files.write(u"b.TXT"_s, "text");
+    files.write(u"c.xyz"_s, "other");
+    files.writeQuarters(u"d.png"_s, QSize(4, 4));
+    QVERIFY(QDir(files.folder()).mkdir(u"e"_s));
+    const FilesWindow window(files);
+    QTRY_COMPARE(window.rows().size(), 5);
+    const auto picture = [&](const QString &name) {
+        const QModelIndex index = window.model->index(files.path(name));
+        return index.data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+    };
+    QVERIFY(!picture(u"a.txt"_s).isNull());
+    QTRY_COMPARE(picture(u"b.TXT"_s), picture(u"a.txt"_s));
+    QTRY_VERIFY(picture(u"d.png"_s) != picture(u"a.txt"_s));
+    QTRY_VERIFY(picture(u"c.xyz"_s) != picture(u"a.txt"_s));
+    QVERIFY(picture(u"c.xyz"_s) != picture(u"d.png"_s));
+    QVERIFY(picture(u"e"_s) != picture(u"c.xyz"_s));
+}
+
+void tst_FilesView::doesNotLookIntoFiles()
+{
+    const Files files;
+    files.writeQuarters(u"a.png"_s, QSize(4, 4));
+    QVERIFY(QFile::rename(files.path(u"a.png"_s), files.path(u"a"_s)));
+    files.write(u"b"_s, "text");
+    const FilesWindow window(files);
+    QTRY_COMPARE(window.rows().size(), 2);
+    const auto type = [&](const QString &name) {
+        return window.model->type(window.model->index(files.path(name)));
+    };
+    QTRY_VERIFY(!type(u"b"_s).isEmpty());
+    QTRY_COMPARE(type(u"a"_s), type(u"b"_s));
 }
 
 NORVANE_TEST_MAIN(tst_FilesView)

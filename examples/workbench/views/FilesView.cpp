@@ -5,6 +5,7 @@
 
 #include "Icons.h"
 #include "files/FileCommands.h"
+#include "views/FileIcons.h"
 
 #include <Norvane/AddressBar.h>
 
@@ -33,6 +34,9 @@ FilesView::FilesView(AddressBar *bar, FileCommands *files)
         m_bar->addSuffix(suffix);
         m_bar->addSuffix(suffix.toUpper());
     }
+    m_model->setIconProvider(FileIcons::instance());
+    // Otherwise every row above the one that is shown would be measured first.
+    m_tree->setUniformRowHeights(true);
     auto *text = new QAction(icon("text-file"_L1), tr("Text Document"), this);
     m_bar->addNewAction(text);
     m_tree->installEventFilter(this);
@@ -62,7 +66,8 @@ bool FilesView::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_tree && event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        for (const auto own : {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste}) {
+        for (const auto own : {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste,
+                               QKeySequence::SelectAll}) {
             if (key->matches(own))
                 event->accept();
         }

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Norvane contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QMutex>
+#include <QtCore/QObject>
+#include <QtGui/QAbstractFileIconProvider>
+#include <QtGui/QIcon>
+
+namespace Workbench {
+
+/*!
+    The tree's icons, which not every desktop has, and the names of types. Both come from the names
+    of files alone: to look into thousands of files would keep the window from being used.
+*/
+class FileIcons : public QObject, public QAbstractFileIconProvider
+{
+public:
+    //! Lives as long as the application, because threads of models may ask until they have ended.
+    static FileIcons *instance();
+
+    QIcon icon(IconType type) const override;
+    QIcon icon(const QFileInfo &info) const override;
+    QString type(const QFileInfo &info) const override;
+
+private:
+    explicit FileIcons(QObject *parent);
+
+    const QIcon m_folder;
+    const QIcon m_other;
+    QHash<QString, QIcon> m_icons;
+    mutable QMutex m_mutex;
+    mutable QHash<QString, QString> m_types;
+};
+
+} // namespace Workbench
