@@ -8,12 +8,14 @@ suite=trixie
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/norvane
 keyring=/usr/share/keyrings/debian-archive-keyring.gpg
 
-# Two roots are enough: one for what everybody runs, one that also has the heavy tools.
+# One root for what everybody runs, one that also has the heavy tools, and a small one for the
+# documentation, which needs neither Qt nor a compiler.
 packages_of() {
     case " $* " in
-    *" lint "* | *" bench "* | *" docs "* | *" package "*) needs qt build desktop lint bench docs package ;;
-    *) needs qt build desktop ;;
-    esac | awk '{ print $1 } END { print "qt6-wayland" }'
+    " docs ") needs docs ;;
+    *" lint "* | *" bench "* | *" package "*) needs qt build desktop lint bench docs package && echo qt6-wayland ;;
+    *) needs qt build desktop && echo qt6-wayland ;;
+    esac | awk '{ print $1 }'
 }
 
 # The name tells the content, so a changed list of packages asks for another root.
@@ -61,7 +63,7 @@ make_root() {
     }
     if [ ! -d "$root" ]; then
         say "Qt here is older than 6.8: making a private Debian 13 with ${packages//,/ }"
-        say "in $root (takes minutes and 1 to 2 GB, once for all checkouts)"
+        say "in $root (takes minutes and up to 2 GB, once for all checkouts)"
         making=$cache/making
         rm -rf --one-file-system "$making"
         mkdir "$making"

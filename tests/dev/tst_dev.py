@@ -221,6 +221,14 @@ class DevTest(unittest.TestCase):
         self.assertNotIn("valgrind", light)
         self.assertIn("valgrind", heavy)
 
+    def test_makes_a_small_root_for_the_documentation(self):
+        self.machine.is_debian("6.4.2")
+        self.machine.makes_roots()
+        status, output = self.machine.dev("docs")
+        self.assertEqual(status, 0, output)
+        [call] = self.machine.calls("mmdebstrap")
+        self.assertIn("--include=doxygen ", call)
+
     def test_leaves_nothing_behind_when_the_root_cannot_be_made(self):
         self.machine.is_debian("6.4.2")
         self.machine.makes_roots(MAKE_ROOT + "\nexit 25")
