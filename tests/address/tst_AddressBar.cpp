@@ -718,6 +718,7 @@ void tst_AddressBar::copiesThePath()
     Window window;
     QVERIFY(window.open());
     window.bar->setPath(QStringLiteral("/usr/share"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     const QSignalSpy changes(window.bar, &AddressBar::signalPathChanged);
     QVERIFY(window.pick(QStringLiteral("Copy")));
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/usr/share"));
@@ -730,6 +731,7 @@ void tst_AddressBar::cutsThePath()
     Window window;
     QVERIFY(window.open());
     window.bar->setPath(QStringLiteral("/usr/share"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     QVERIFY(window.pick(QStringLiteral("Cut")));
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/usr/share"));
     QVERIFY(isEditing(window.strip));

@@ -31,6 +31,7 @@ class tst_AddressFileOperations : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void numbersItsChecks();
     void checksACopy_data();
     void checksACopy();
     void findsThePathOfTheSourceAnywhere();
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void mergesFolders();
     void reportsAFolderInTheWayOfAMerge();
     void mergesInTheOrderOfNames();
+    void copiesFilesInTheOrderOfNames();
+    void makesTheFoldersAboveACopy();
     void copiesNoHiddenEntries();
     void leavesPipesAlone();
 
@@ -157,6 +160,19 @@ void setWritable(const QString &path, bool writable)
 
 } // namespace
 
+void tst_AddressFileOperations::numbersItsChecks()
+{
+    using Operations = AddressFileOperations;
+    QCOMPARE(int(Operations::SourceMissing), 0);
+    QCOMPARE(int(Operations::SamePath), 1);
+    QCOMPARE(int(Operations::TargetInsideSource), 2);
+    QCOMPARE(int(Operations::FileExists), 3);
+    QCOMPARE(int(Operations::FolderExists), 4);
+    QCOMPARE(int(Operations::TypeClash), 5);
+    QCOMPARE(int(Operations::PermissionDenied), 6);
+    QCOMPARE(int(Operations::TargetFree), 7);
+}
+
 void tst_AddressFileOperations::checksACopy_data()
 {
     using Check = AddressFileOperations::CopyCheck;
@@ -179,6 +195,7 @@ void tst_AddressFileOperations::checksACopy_data()
     row("deep into itself", u"d"_s, u"d/e/d"_s, Operations::TargetInsideSource);
     row("into itself, onto a folder", u"d"_s, u"d/e"_s, Operations::TargetInsideSource);
     row("into what begins alike", u"d"_s, u"dd/d"_s, Operations::TargetInsideSource);
+    row("into what begins alike, in another case", u"d"_s, u"Dd/d"_s, Operations::TargetFree);
     row("file into what begins alike", u"f"_s, u"ff/f"_s, Operations::TargetInsideSource);
     row("file into itself", u"f"_s, u"f/f"_s, Operations::TargetInsideSource);
     row("beside itself", u"d"_s, u"Copy_2_of_d"_s, Operations::TargetFree);
@@ -453,6 +470,7 @@ void tst_AddressFileOperations::asksAboutAFile()
     QCOMPARE(box.text, conflict(u"f"_s));
     // A name is no markup.
     QCOMPARE(box.format, Qt::PlainText);
+    QCOMPARE(box.icon, QMessageBox::NoIcon);
     QCOMPARE(box.parent, nullptr);
     QCOMPARE(box.buttons,
              QStringList({u"Replace Current"_s, u"Save a Copy"_s, u"Skip"_s, u"Cancel"_s}));
@@ -544,6 +562,7 @@ void tst_AddressFileOperations::reportsWhatCannotBeCopied()
         QCOMPARE(box.text,
                  reason.isEmpty() ? u"Source file does not exist"_s : refusal(from, to, reason));
         QCOMPARE(box.buttons, QStringList{u"OK"_s});
+        QCOMPARE(box.icon, QMessageBox::NoIcon);
         QCOMPARE(box.parent, nullptr);
         QCOMPARE(clipboardIsEmpty(), cut);
     }
@@ -593,6 +612,30 @@ void tst_AddressFileOperations::mergesInTheOrderOfNames()
         expected << refusal(files.path(u"d/"_s + name), files.path(u"to/d/"_s + name), sameName);
     }
     QCOMPARE(answers.texts(), expected);
+}
+
+void tst_AddressFileOperations::copiesFilesInTheOrderOfNames()
+{
+    const QStringList names{u"A"_s, u"a1"_s, u"b"_s, u"C"_s};
+    for (int failing = 1; failing <= names.size(); ++failing) {
+        const Files files({u"d"_s, u"d/b=1"_s, u"d/A=1"_s, u"d/C=1"_s, u"d/a1=1"_s});
+        {
+            const Fault fault(Fault::OpenToRead, failing, failing, EACCES);
+            AddressFileOperations().copy(files.path(u"d"_s), files.path(u"to"_s), false);
+        }
+        QStringList left = names;
+        left.removeAt(failing - 1);
+        QCOMPARE(QDir(files.path(u"to"_s)).entryList(QDir::Files), left);
+    }
+}
+
+void tst_AddressFileOperations::makesTheFoldersAboveACopy()
+{
+    const Files files({u"d/e"_s, u"d/f=1"_s});
+    AddressFileOperations().copy(files.path(u"d"_s), files.path(u"no/such/folder"_s), false);
+    QCOMPARE(
+        files.entries(u"no"_s),
+        QStringList({u"such/"_s, u"such/folder/"_s, u"such/folder/e/"_s, u"such/folder/f=1"_s}));
 }
 
 void tst_AddressFileOperations::copiesNoHiddenEntries()
