@@ -11,6 +11,7 @@
 #include <QtWidgets/QStyleOptionTab>
 #include <QtWidgets/QToolTip>
 
+#include <cstdlib>
 #include <utility>
 
 namespace Norvane {
@@ -34,9 +35,11 @@ DockTabBar::DockTabBar(QWidget *parent)
 QSize DockTabBar::tabSizeHint(int index) const
 {
     if (!m_measuring) {
+        // A layout asks for all tabs in turn, so that one look at them is enough.
+        if (!std::exchange(m_layingOut, false))
+            beginLayout();
         const Sizes sizes = sizesOf(index);
-        m_asked = {index, sizes.minimum};
-        return sizes.hint;
+        return m_overfull ? QSize(sizes.minimum.width(), sizes.hint.height()) : sizes.hint;
     }
     QSize size = QTabBar::tabSizeHint(index);
     if (size.isValid() && hasCloseButton(index))
@@ -46,46 +49,108 @@ QSize DockTabBar::tabSizeHint(int index) const
 
 QSize DockTabBar::minimumTabSizeHint(int index) const
 {
-    // A layout asks for both in turn.
-    const auto [asked, minimum] = std::exchange(m_asked, {-1, {}});
-    return asked == index ? minimum : sizesOf(index).minimum;
+    // A layout asks for it after the hint.
+    m_layingOut = true;
+    return index < m_tabs.size() ? m_tabs.at(index).sizes.minimum : QSize();
+}
+
+QSize DockTabBar::sizeHint() const
+{
+    const QSize size = QTabBar::sizeHint();
+    return m_overfull ? QSize(m_width, size.height()) : size;
+}
+
+void DockTabBar::tabLayoutChange()
+{
+    m_layingOut = false;
+    QTabBar::tabLayoutChange();
+}
+
+void DockTabBar::beginLayout() const
+{
+    m_current = currentIndex();
+    // For one tab that comes QTabBar lays all out five times.
+    if (!std::exchange(m_inserting, count() > m_knownCount))
+        lookAtEach();
+    // Tabs that are cut short and still do not fit all get their least width. Asked for, it is
+    // theirs at once; otherwise QTabBar takes the room from one after the other.
+    m_overfull = m_leastWidth > width() && (shape() == RoundedNorth || shape() == RoundedSouth);
+}
+
+void DockTabBar::lookAtEach() const
+{
+    m_first = 0;
+    m_last = count() - 1;
+    while (m_first < m_last && !isTabVisible(m_first))
+        ++m_first;
+    while (m_last > m_first && !isTabVisible(m_last))
+        --m_last;
+    if (m_tabs.size() < count())
+        m_tabs.resize(count());
+    int width = 0;
+    int leastWidth = 0;
+    for (int index = m_first; index <= m_last; ++index) {
+        if (!isTabVisible(index))
+            continue;
+        if (m_tabs.size() > count() && !(m_tabs.at(index).look == lookOf(index)))
+            m_tabs.removeAt(index);
+        const Sizes sizes = lookAt(index);
+        width += sizes.hint.width();
+        leastWidth += sizes.minimum.width();
+    }
+    m_tabs.resize(count());
+    m_width = width;
+    m_leastWidth = leastWidth;
 }
 
 DockTabBar::Sizes DockTabBar::sizesOf(int index) const
 {
+    if (index < 0 || index >= m_tabs.size())
+        return {};
+    // Those at the ends and beside the current one change their look with what others do.
+    const bool middle =
+        index > m_first + 1 && index < m_last - 1 && std::abs(index - m_current) > 1;
+    return middle ? m_tabs.at(index).sizes : lookAt(index);
+}
+
+DockTabBar::Sizes DockTabBar::lookAt(int index) const
+{
+    const Look look = lookOf(index);
+    if (m_tabs.at(index).look == look)
+        return m_tabs.at(index).sizes;
+    const auto known = m_sizes.constFind(look);
+    if (known != m_sizes.constEnd())
+        return keep(index, {look, *known});
     const auto measure = [this, index] {
         const QScopedValueRollback measuring(m_measuring, true);
         return Sizes{tabSizeHint(index), QTabBar::minimumTabSizeHint(index)};
     };
-    if (index < 0 || index >= count())
-        return {};
-    const Look look = lookOf(index);
-    const auto known = m_sizes.constFind(look);
-    if (known != m_sizes.constEnd())
-        return *known;
     const Sizes sizes = measure();
     // While a tab is inserted or removed Qt still has another one for the first or the last.
-    if (m_knownCount != count() && (index <= 1 || index >= count() - 2))
-        return sizes;
+    if (m_knownCount != count() && (index <= m_first + 1 || index >= m_last - 1))
+        return keep(index, {{}, sizes});
     if (m_sizes.size() >= mostSizes)
         m_sizes.clear();
     m_sizes.insert(look, sizes);
-    return sizes;
+    return keep(index, {look, sizes});
+}
+
+DockTabBar::Sizes DockTabBar::keep(int index, const Tab &tab) const
+{
+    Tab &kept = m_tabs[index];
+    m_width += tab.sizes.hint.width() - kept.sizes.hint.width();
+    m_leastWidth += tab.sizes.minimum.width() - kept.sizes.minimum.width();
+    kept = tab;
+    return tab.sizes;
 }
 
 DockTabBar::Look DockTabBar::lookOf(int index) const
 {
-    int first = 0;
-    while (first < index && !isTabVisible(first))
-        ++first;
-    int last = count() - 1;
-    while (last > index && !isTabVisible(last))
-        --last;
     const QIcon icon = tabIcon(index);
     int state = 0;
     for (const bool is :
-         {index == first, index == last, index == currentIndex(), index == currentIndex() - 1,
-          index == currentIndex() + 1, isTabEnabled(index), hasCloseButton(index)})
+         {index == m_first, index == m_last, index == m_current, index == m_current - 1,
+          index == m_current + 1, isTabEnabled(index), hasCloseButton(index)})
         state = 2 * state + is;
     return {tabText(index), icon.isNull() ? 0 : icon.cacheKey(), state};
 }
@@ -113,6 +178,7 @@ void DockTabBar::tabInserted(int index)
         setTabButton(index, closeLook().side, nullptr);
         delete button;
     }
+    m_inserting = false;
     m_knownCount = count();
     m_pressed = -1;
     setHovered(-1);
@@ -130,6 +196,8 @@ void DockTabBar::tabRemoved(int index)
 void DockTabBar::forgetSizes()
 {
     m_sizes.clear();
+    m_tabs.clear();
+    m_inserting = false;
     m_closeLook.reset();
 }
 

@@ -13,7 +13,7 @@ namespace Norvane {
 /*!
     A bar of closable tabs that stays fast with a thousand of them. QTabBar makes a widget for each
     close button, and at every insertion it moves all of them and asks the style for the size of all
-    tabs, twice. Here the close buttons are painted, and a size is kept until what it depends on
+    tabs, ten times. Here the close buttons are painted, and a size is kept until what it depends on
     changes.
 */
 class DockTabBar : public QTabBar
@@ -23,11 +23,14 @@ class DockTabBar : public QTabBar
 public:
     explicit DockTabBar(QWidget *parent = nullptr);
 
+    QSize sizeHint() const override;
+
 protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void initStyleOption(QStyleOptionTab *option, int index) const override;
     void tabInserted(int index) override;
+    void tabLayoutChange() override;
     void tabRemoved(int index) override;
 
     bool event(QEvent *event) override;
@@ -44,8 +47,8 @@ private:
     struct Look
     {
         QString text;
-        qint64 icon;
-        int state;
+        qint64 icon = 0;
+        int state = -1;
 
         friend bool operator==(const Look &one, const Look &other) noexcept
         {
@@ -58,8 +61,13 @@ private:
     };
     struct Sizes
     {
-        QSize hint;
-        QSize minimum;
+        QSize hint{0, 0};
+        QSize minimum{0, 0};
+    };
+    struct Tab
+    {
+        Look look;
+        Sizes sizes;
     };
 
     struct CloseLook
@@ -68,6 +76,10 @@ private:
         QSize size;
     };
 
+    void beginLayout() const;
+    void lookAtEach() const;
+    Sizes lookAt(int index) const;
+    Sizes keep(int index, const Tab &tab) const;
     Sizes sizesOf(int index) const;
     Look lookOf(int index) const;
     bool hasCloseButton(int index) const;
@@ -82,7 +94,16 @@ private:
     // Qt matches the rules of a close button with the parent of the widget that is painted.
     QWidget *m_closeButton;
     mutable QHash<Look, Sizes> m_sizes;
-    mutable std::pair<int, QSize> m_asked{-1, {}};
+    mutable QList<Tab> m_tabs;
+    mutable int m_first = 0;
+    mutable int m_last = -1;
+    mutable int m_current = -1;
+    mutable bool m_layingOut = false;
+    mutable bool m_inserting = false;
+    // The tabs are wider than the bar however short their texts are cut.
+    mutable bool m_overfull = false;
+    mutable int m_width = 0;
+    mutable int m_leastWidth = 0;
     mutable std::optional<CloseLook> m_closeLook;
     mutable bool m_measuring = false;
     int m_knownCount = 0;

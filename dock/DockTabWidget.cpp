@@ -15,6 +15,8 @@ DockTabWidget::DockTabWidget(QWidget *parent)
     // The name must be there before the bar is polished, or it would keep the height of others.
     bar->setObjectName(QStringLiteral("dockTabBar"));
     setTabBar(bar);
+    // The bar never gets more room than its tabs want, but QTabBar looks long for how to share it.
+    bar->setExpanding(false);
     setTabsClosable(true);
     setMovable(true);
 }

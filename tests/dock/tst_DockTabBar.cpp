@@ -2,18 +2,21 @@
 // SPDX-License-Identifier: MIT
 
 #include "Gui.h"
+#include "Steps.h"
 #include "TestCase.h"
 
 #include <dock/DockTabBar.h>
 #include <dock/DockTabWidget.h>
 #include <style/StyleSheet.h>
 
+#include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QVBoxLayout>
 
 #include <memory>
+#include <optional>
 
 using namespace Norvane;
 using namespace Qt::StringLiterals;
@@ -34,6 +37,7 @@ private Q_SLOTS:
     void namesTheButton();
     void hidesTheButtonsWhileATabIsMoved();
     void movesByTheKeyboard();
+    void laysTabsOutLikeABarOfQt();
 };
 
 namespace {
@@ -318,6 +322,102 @@ void tst_DockTabBar::movesByTheKeyboard()
     QCOMPARE(host.tabs->currentIndex(), 1);
     QTest::keyClick(host.bar(), Qt::Key_Left);
     QCOMPARE(host.tabs->currentIndex(), 0);
+}
+
+void tst_DockTabBar::laysTabsOutLikeABarOfQt()
+{
+    const QString more = u"QTabBar::tab:selected { font: bold; }"
+                         "QTabBar::tab:last { padding-right: 30px; }"_s;
+    const auto player = [&more](const QList<Steps::Step> &steps, QStringList *story) -> QString {
+        Host ours(true, more);
+        Host plain(false, more);
+        if (!ours.open() || !plain.open())
+            return u"no window"_s;
+        for (const auto &[kind, number] : steps) {
+            const int count = ours.tabs->count();
+            const int index = count > 0 ? number % count : 0;
+            const QString text(number % 23, u'x');
+            const bool on = number / 100 % 2;
+            bool hidden = false;
+            for (int i = 0; i < count; ++i)
+                hidden = hidden || !ours.tabs->isTabVisible(i);
+            *story << u"%1 with %2 of %3"_s.arg(kind).arg(index).arg(count);
+            for (const Host *host : {&ours, &plain}) {
+                QTabWidget *tabs = host->tabs;
+                switch (kind) {
+                case 0:
+                case 1:
+                case 2:
+                    tabs->addTab(new QWidget, text);
+                    break;
+                case 3:
+                    tabs->insertTab(index, new QWidget, text);
+                    break;
+                case 4:
+                    delete tabs->widget(index);
+                    break;
+                case 5:
+                    tabs->setCurrentIndex(index);
+                    break;
+                case 6:
+                    tabs->setTabText(index, text);
+                    break;
+                case 7:
+                    tabs->setTabIcon(index, on ? QIcon(u":/res/menu.svg"_s) : QIcon());
+                    break;
+                case 8:
+                    tabs->setTabEnabled(index, on);
+                    break;
+                case 9:
+                    if (on || index != tabs->currentIndex())
+                        tabs->setTabVisible(index, on);
+                    break;
+                case 10:
+                    // QTabBar loses sight of its first and last tab when hidden ones move, or all
+                    // hide.
+                    if (!hidden)
+                        tabs->tabBar()->moveTab(index, number / 100 % qMax(1, count));
+                    break;
+                default:
+                    tabs->window()->resize(200 + number % 1000, 120);
+                    break;
+                }
+            }
+            QCoreApplication::processEvents();
+            const QTabBar *bar = ours.bar();
+            const QTabBar *other = plain.bar();
+            if (bar->currentIndex() != other->currentIndex())
+                return u"another tab is current"_s;
+            // How far a bar is scrolled depends on what it went through: QTabBar's new tabs have no
+            // button at first.
+            std::optional<int> scrolled;
+            for (int i = 0; i < other->count(); ++i) {
+                if (!other->isTabVisible(i))
+                    continue;
+                if (!scrolled)
+                    scrolled = other->tabRect(i).x() - bar->tabRect(i).x();
+                if (bar->tabRect(i).translated(*scrolled, 0) != other->tabRect(i)) {
+                    return u"tab %1 is at %2 instead of %3"_s.arg(
+                        QString::number(i), QDebug::toString(bar->tabRect(i)),
+                        QDebug::toString(other->tabRect(i)));
+                }
+            }
+            if (bar->geometry() != other->geometry())
+                return u"another place"_s;
+            if (bar->sizeHint() != other->sizeHint()
+                || bar->minimumSizeHint() != other->minimumSizeHint())
+                return u"another size is wanted"_s;
+        }
+        return {};
+    };
+    QRandomGenerator random(5);
+    for (int round = 0; round < 20; ++round) {
+        QList<Steps::Step> steps;
+        for (int i = 0; i < 60; ++i)
+            steps.append({random.bounded(12), random.bounded(100000)});
+        const QString wrong = Steps::play(steps, player);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    }
 }
 
 NORVANE_TEST_MAIN(tst_DockTabBar)
