@@ -4,12 +4,12 @@
 #include "AddressEntry_p.h"
 
 #include "AddressPath.h"
+#include "IconFile.h"
 
 #include <QtCore/QApplicationStatic>
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
-#include <QtGui/QPixmapCache>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
@@ -36,18 +36,6 @@ struct StyleIcons
     QIcon folder;
 };
 Q_APPLICATION_STATIC(StyleIcons, styleIcons)
-
-// An icon renders its file anew for every object that holds it, so the pixmap is kept by name.
-QPixmap arrowPixmap(const QString &file, QSize size, qreal devicePixelRatio)
-{
-    const QString key = file + QString::number(devicePixelRatio);
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        pixmap = QIcon(file).pixmap(size, devicePixelRatio, QIcon::Normal, QIcon::Off);
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap;
-}
 
 // A menu that connects its actions by functions. Others do so by the names of signals and slots,
 // and look them up again for every action, which is a third of what building them takes.
@@ -249,7 +237,7 @@ void AddressEntryPrivate::paintArrow(QPainter &painter) const
         painter.setTransform(QTransform(-1, 0, 0, 1, q->width(), 0), true);
     painter.drawPixmap(q->width() - arrowRight - arrowSize.width(),
                        (q->height() - arrowSize.height()) / 2,
-                       arrowPixmap(file, arrowSize, q->devicePixelRatio()));
+                       IconFile::pixmap(file, arrowSize, q->devicePixelRatio(), QIcon::Normal));
 }
 
 AddressEntry::AddressEntry(QWidget *parent)

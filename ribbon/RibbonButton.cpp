@@ -3,10 +3,11 @@
 
 #include "RibbonButton_p.h"
 
+#include "IconFile.h"
+
 #include <QtGui/QAction>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
-#include <QtGui/QPixmapCache>
 #include <QtGui/QTextOption>
 #include <QtWidgets/QMenu>
 
@@ -30,19 +31,6 @@ const Palette &palette()
 {
     static const Palette palette;
     return palette;
-}
-
-// An icon renders its file anew for every object that holds it, so the pixmap is kept by name.
-QPixmap arrowPixmap(QSize size, qreal devicePixelRatio, QIcon::Mode mode)
-{
-    const QString key = QStringLiteral("norvane-arrow-%1-%2").arg(devicePixelRatio).arg(mode);
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        pixmap = QIcon(QStringLiteral(":/res/arrow.svg"))
-                     .pixmap(size, devicePixelRatio, mode, QIcon::Off);
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap;
 }
 
 } // namespace
@@ -240,8 +228,9 @@ void RibbonButtonPrivate::paintArrow(QPainter &painter) const
     Q_Q(const RibbonButton);
     if (!menu() || !(isLarge() || isSmall()))
         return;
-    const QPixmap pixmap = arrowPixmap(arrowSize, q->devicePixelRatio(),
-                                       q->isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    const QPixmap pixmap =
+        IconFile::pixmap(QStringLiteral(":/res/arrow.svg"), arrowSize, q->devicePixelRatio(),
+                         q->isEnabled() ? QIcon::Normal : QIcon::Disabled);
     painter.setBrush(Qt::NoBrush);
     if (isLarge()) {
         painter.drawPixmap((q->width() - arrowSize.width()) / 2,
