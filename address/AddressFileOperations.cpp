@@ -47,6 +47,13 @@ bool isInside(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder + u'/');
 }
 
+bool isRefused(AddressFileOperations::CopyCheck code)
+{
+    using Operations = AddressFileOperations;
+    return code != Operations::SamePath && code != Operations::TargetFree
+        && code != Operations::FileExists && code != Operations::FolderExists;
+}
+
 QString freeName(const QString &path)
 {
     const QFileInfo info(path);
@@ -129,19 +136,9 @@ void AddressFileOperations::copy(const QString &source, const QString &target, b
 {
     const QFileInfo info(source);
     const CopyCheck code = check(info, QFileInfo(target));
-    switch (code) {
-    case SourceMissing:
-    case TargetInsideSource:
-    case TypeClash:
-    case PermissionDenied:
-    case Unknown:
+    if (isRefused(code)) {
         showError(code, source, target);
         return;
-    case SamePath:
-    case FileExists:
-    case FolderExists:
-    case TargetFree:
-        break;
     }
     // What is neither, a pipe for instance, would block whoever reads it.
     if (info.isFile())
@@ -154,7 +151,8 @@ bool AddressFileOperations::remove(const QString &path)
 {
     m_trashPath.clear();
     const QFileInfo info(path);
-    if (!isTaken(info))
+    // What is in the root could be removed, although the root itself cannot.
+    if (!isTaken(info) || info.isRoot())
         return false;
     if (QFile::moveToTrash(path, &m_trashPath))
         return true;
@@ -213,21 +211,15 @@ void AddressFileOperations::pasteOne(const QString &source, const QDir &folder, 
         && isInside(folder.canonicalPath(), info.canonicalFilePath())) {
         code = TargetInsideSource;
     }
-    switch (code) {
-    case SourceMissing:
-    case TargetInsideSource:
-    case TypeClash:
-    case PermissionDenied:
-    case Unknown:
+    if (isRefused(code)) {
         showError(code, source, target);
         return;
-    case SamePath:
+    }
+    if (code == SamePath) {
         if (cut)
             return;
         target = freeName(target);
-        break;
-    case FileExists:
-    case FolderExists: {
+    } else if (code != TargetFree) {
         QMessageBox box;
         box.setWindowTitle(tr("information"));
         box.setTextFormat(Qt::PlainText);
@@ -247,10 +239,6 @@ void AddressFileOperations::pasteOne(const QString &source, const QDir &folder, 
             target = freeName(target);
         else if (!overwrite)
             return;
-        break;
-    }
-    case TargetFree:
-        break;
     }
     if (cut && !isTaken(QFileInfo(source)))
         return;
