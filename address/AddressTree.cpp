@@ -86,8 +86,10 @@ void AddressTreePrivate::updateSelectionActions()
 QString AddressTreePrivate::shownFolder() const
 {
     Q_Q(const AddressTree);
-    // Before it is told of any folder, the model names the working directory and shows drives.
-    return q->rootIndex().isValid() ? model->rootPath() : QString();
+    // Before it is told of any folder, the model names the working directory and shows drives. It
+    // shows them again, but names the folder, when that was deleted.
+    const bool told = q->rootIndex().isValid() || !rootPath.isEmpty();
+    return told ? model->rootPath() : QString();
 }
 
 QString AddressTreePrivate::targetFolder() const

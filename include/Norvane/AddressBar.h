@@ -106,8 +106,8 @@ public:
 
     /*!
         Where an action of the "New" menu is meant to act: the path of the tree's current item if
-        something is selected, else the folder that the tree shows; nothing if that was deleted. The
-        tree is made if there is none yet.
+        something is selected, else the folder that the tree shows, or showed until it was deleted.
+        The tree is made if there is none yet.
     */
     QString actionTriggeredPath();
 

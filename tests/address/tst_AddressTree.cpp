@@ -46,6 +46,7 @@ private Q_SLOTS:
     void showsFoldersThatMayNotBeRead();
     void actsOnNothingBeforeItShowsAFolder();
     void actsOnNothingAfterItsFolderIsGone();
+    void namesItsFolderAfterItIsGone();
     void selectsWhereItCameFrom_data();
     void selectsWhereItCameFrom();
     void selectsWhereItCameFromWithAKeyDown_data();
@@ -502,6 +503,33 @@ void tst_AddressTree::actsOnNothingAfterItsFolderIsGone()
         tree.selectionModel()->clear();
         QCOMPARE(tree.targetPath(), files.path(u"d"_s));
     }
+}
+
+void tst_AddressTree::namesItsFolderAfterItIsGone()
+{
+    const Files files({u"a/d"_s, u"a/d/f=1"_s, u"g=1"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    // So that the model follows what happens in the folder above it.
+    tree.expand(tree.index(u"a"_s));
+    QTRY_COMPARE(tree.files()->rowCount(tree.index(u"a"_s)), 1);
+    const QString gone = files.path(u"a/d"_s);
+    tree.slotPathChanged(gone);
+    QVERIFY(tree.load());
+    QVERIFY(QDir(gone).removeRecursively());
+    QTRY_VERIFY(!tree.rootIndex().isValid());
+    QCOMPARE(tree.selectedPaths(), QStringList());
+    QCOMPARE(tree.targetPath(), gone);
+    const Answers answers;
+    toClipboard({files.path(u"g"_s)});
+    tree.key(Qt::Key_V, Qt::ControlModifier);
+    const Drop drop(tree.viewport(), filesOf({files.path(u"g"_s)}).get(), tree.emptyPosition());
+    QVERIFY(drop.entered);
+    QCOMPARE(answers.texts(), QStringList());
+    QCOMPARE(files.entries(), QStringList({u"a/"_s, u"g=1"_s}));
+    // The missing folder is made along with the new one.
+    tree.action(u"Folder"_s)->trigger();
+    QCOMPARE(files.entries(), QStringList({u"a/"_s, u"a/d/"_s, u"a/d/New Folder/"_s, u"g=1"_s}));
 }
 
 void tst_AddressTree::selectsWhereItCameFrom_data()
