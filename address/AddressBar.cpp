@@ -15,7 +15,33 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
+#include <functional>
+
 namespace Norvane {
+
+namespace {
+
+class DirectionFilter : public QObject
+{
+public:
+    DirectionFilter(std::function<void()> changed, QObject *parent)
+        : QObject(parent)
+        , m_changed(std::move(changed))
+    {
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            m_changed();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> m_changed;
+};
+
+} // namespace
 
 void AddressBarPrivate::init()
 {
@@ -36,12 +62,11 @@ void AddressBarPrivate::init()
         QObject::connect(button, &QPushButton::clicked, q, [this, button] { follow(button); });
         return button;
     };
-    // Back is where the text comes from.
-    QStringList arrows{QStringLiteral(":/res/backward.svg"), QStringLiteral(":/res/forward.svg")};
-    if (q->isRightToLeft())
-        arrows.swapItemsAt(0, 1);
-    backwardButton = addButton(arrows.first(), AddressBar::tr("Back"));
-    forwardButton = addButton(arrows.last(), AddressBar::tr("Forward"));
+    backwardButton = addButton(QStringLiteral(":/res/backward.svg"), AddressBar::tr("Back"));
+    forwardButton = addButton(QStringLiteral(":/res/forward.svg"), AddressBar::tr("Forward"));
+    arrows = {backwardButton->icon(), forwardButton->icon()};
+    q->installEventFilter(new DirectionFilter([this] { turnArrows(); }, q));
+    turnArrows();
     dirupButton = addButton(QStringLiteral(":/res/dirup.svg"), AddressBar::tr("Up"));
     browseButton = addButton(QStringLiteral(":/res/browse.svg"), AddressBar::tr("Browse"));
     strip = new AddressStrip(q);
@@ -50,6 +75,19 @@ void AddressBarPrivate::init()
     q->setContextMenuPolicy(Qt::CustomContextMenu);
     clipboard = QGuiApplication::clipboard();
     createContextMenu();
+}
+
+// Back is where the text comes from. Icons that the application has set stay.
+void AddressBarPrivate::turnArrows()
+{
+    Q_Q(AddressBar);
+    const auto turn = [this](QPushButton *button, const QIcon &arrow) {
+        const qint64 key = button->icon().cacheKey();
+        if (key == arrows.first.cacheKey() || key == arrows.second.cacheKey())
+            button->setIcon(arrow);
+    };
+    turn(backwardButton, q->isRightToLeft() ? arrows.second : arrows.first);
+    turn(forwardButton, q->isRightToLeft() ? arrows.first : arrows.second);
 }
 
 void AddressBarPrivate::createContextMenu()

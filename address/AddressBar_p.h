@@ -7,6 +7,9 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QStringList>
+#include <QtGui/QIcon>
+
+#include <utility>
 
 class QClipboard;
 class QMenu;
@@ -23,6 +26,7 @@ class AddressBarPrivate
 
 public:
     void init();
+    void turnArrows();
     void createContextMenu();
     QPushButton *button(AddressBar::AddressButton button) const;
     void follow(QPushButton *clicked);
@@ -45,6 +49,9 @@ public:
     QMenu *contextMenu = nullptr;
     QClipboard *clipboard = nullptr;
     AddressBar *q_ptr = nullptr;
+
+    // What points to the left and to the right.
+    std::pair<QIcon, QIcon> arrows;
 };
 
 } // namespace Norvane

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void standsInARow();
     void startsAtHome();
     void setsTheIconOfAButton();
+    void turnsItsArrowsWithTheDirection();
 
     void reportsANavigation();
     void resetsItsHistory();
@@ -341,6 +342,41 @@ void tst_AddressBar::setsTheIconOfAButton()
                      pixels(i == set ? icon : QIcon(buttonIcons.at(i))));
         }
     }
+}
+
+void tst_AddressBar::turnsItsArrowsWithTheDirection()
+{
+    QWidget window;
+    auto *bar = new AddressBar(&window);
+    const auto shown = [bar] {
+        const auto buttons = buttonsOf(bar);
+        QList<QImage> images;
+        for (const QPushButton *button : buttons)
+            images << pixels(button->icon());
+        return images;
+    };
+    const QList<QImage> before = shown();
+    QList<QImage> turned = before;
+    turned.swapItemsAt(0, 1);
+    QVERIFY(turned != before);
+    window.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(shown(), turned);
+    bar->setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(shown(), before);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto back = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    QCOMPARE(shown(), before);
+    bar->unsetLayoutDirection();
+    QCOMPARE(shown(), turned);
+    // An icon that was set stays, even with what the other button shows.
+    bar->setButtonIcon(AddressBar::Backward, QIcon(buttonIcons.at(AddressBar::Backward)));
+    window.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(shown(), before);
+    window.setLayoutDirection(Qt::RightToLeft);
+    turned[0] = before.at(0);
+    QCOMPARE(shown(), turned);
+    AddressBar other;
+    QCOMPARE(pixels(buttonsOf(&other).at(0)->icon()), before.at(1));
 }
 
 void tst_AddressBar::reportsANavigation()
