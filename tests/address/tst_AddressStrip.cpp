@@ -1172,6 +1172,14 @@ void tst_AddressStrip::staysInTheEditorWhenItIsClicked()
         window.click(window.strip, QPoint(x, 5));
         QVERIFY(isEditing(window.strip));
     }
+    // A pen presses without the mouse having come.
+    Gui::moveMouse(window.patch, QPoint(1, 1));
+    QVERIFY(!window.strip->underMouse());
+    const QPointF position(5, 5);
+    QMouseEvent press(QEvent::MouseButtonPress, position, window.strip->mapToGlobal(position),
+                      Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(window.strip, &press);
+    QVERIFY(isEditing(window.strip));
 }
 
 void tst_AddressStrip::rewritesTheHistoryWhenTheEditorIsLeft()

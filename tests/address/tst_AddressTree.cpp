@@ -90,6 +90,7 @@ private Q_SLOTS:
     void renamesNothing_data();
     void renamesNothing();
     void renamesOneEntryOnly();
+    void actsOnItsFolderWithoutACurrentEntry();
 
     void takesFilesOnly();
     void tellsMoveFromCopyByTheDrive_data();
@@ -738,6 +739,7 @@ void tst_AddressTree::reportsFilesWithASuffix_data()
     QTest::newRow("both of two") << u"f.tar.gz"_s << QStringList{u"tar.gz"_s} << false;
     QTest::newRow("no suffix") << u"f"_s << QStringList{QString()} << true;
     QTest::newRow("no suffix, none wanted") << u"f"_s << QStringList{u"txt"_s} << false;
+    QTest::newRow("the ones before") << u"f.was"_s << QStringList{u"txt"_s} << false;
     QTest::newRow("a blank") << u"f. "_s << QStringList{u" "_s} << true;
 }
 
@@ -1277,6 +1279,24 @@ void tst_AddressTree::renamesOneEntryOnly()
     QTest::keyClicks(tree.editor(), u"cvx"_s);
     QTest::keyClick(tree.editor(), Qt::Key_Return);
     QTRY_COMPARE(files.entries(), QStringList({u"a=1"_s, u"cvx=1"_s}));
+}
+
+void tst_AddressTree::actsOnItsFolderWithoutACurrentEntry()
+{
+    // Only a program selects without making current.
+    const Files files({u"d"_s, u"f=1"_s, u"from"_s, u"from/g=1"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    tree.selectionModel()->select(tree.index(u"d"_s),
+                                  QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QVERIFY(!tree.currentIndex().isValid());
+    QCOMPARE(tree.selected(), QStringList{u"d"_s});
+    QCOMPARE(tree.targetPath(), files.path());
+    tree.action(u"Rename"_s)->trigger();
+    QVERIFY(!tree.editor());
+    toClipboard({files.path(u"from/g"_s)});
+    tree.key(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(QFile::exists(files.path(u"g"_s)));
 }
 
 void tst_AddressTree::takesFilesOnly()
