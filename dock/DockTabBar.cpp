@@ -157,9 +157,17 @@ DockTabBar::Look DockTabBar::lookOf(int index) const
 
 void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
 {
+    // Nobody reads a text that lies far outside of the bar, where a tab that is moved may bring it
+    // in at most from beside it; QTabBar cuts all texts short whenever it paints.
+    const QRect place = tabRect(index);
+    if (!place.intersects(rect().adjusted(-width(), -height(), width(), height()))) {
+        option->initFrom(this);
+        option->rect = place;
+        option->shape = shape();
+        return;
+    }
     QTabBar::initStyleOption(option, index);
-    // Nobody reads a text that lies outside of the bar.
-    if (!hasCloseButton(index) || !option->rect.intersects(rect()))
+    if (!hasCloseButton(index))
         return;
     if (closeLook().side == LeftSide)
         option->leftButtonSize = closeLook().size;
