@@ -3,6 +3,8 @@
 
 #include "HelpDialog.h"
 
+#include "Texts.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtGui/QAction>
 #include <QtWidgets/QDialogButtonBox>
@@ -26,11 +28,10 @@ static QTreeWidget *shortcutList(const QList<QAction *> &commands)
             continue;
         QString text = command->text();
         text.replace(u'\n', u' ');
-        auto *item = new QTreeWidgetItem(
-            list,
-            {text,
-             QKeySequence::listToString(command->shortcuts(), QKeySequence::NativeText)
-                 .replace(QStringLiteral("; "), QStringLiteral(",  "))});
+        const QString keys =
+            QKeySequence::listToString(command->shortcuts(), QKeySequence::NativeText)
+                .replace(QStringLiteral("; "), QStringLiteral(",  "));
+        auto *item = new QTreeWidgetItem(list, {text, isolated(keys)});
         item->setIcon(0, command->icon());
     }
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -11,7 +11,9 @@
 #include <Norvane/DockContainer.h>
 #include <Norvane/DockPanelWidget.h>
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
+#include <QtGui/QTextLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTreeWidget>
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void listsTheHeadingsOfTheText();
     void goesToAHeading();
     void showsTheProperties();
+    void keepsValuesInTheirOrder();
     void findsInAllTexts();
     void logsWhatWasDone();
     void remembersTheLayout();
@@ -192,6 +195,31 @@ void tst_Panels::showsTheProperties()
     QCOMPARE(value(u"State"_s), u"Saved"_s);
     QTest::keyClicks(window.editor(), u"x"_s);
     QCOMPARE(value(u"State"_s), u"Not saved"_s);
+}
+
+void tst_Panels::keepsValuesInTheirOrder()
+{
+    const Files files;
+    const QString picture = files.writeQuarters(u"p.png"_s, QSize(8, 4));
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(direction);
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        const WorkbenchWindow window({picture});
+        const auto *properties = window.findChild<PropertiesView *>();
+        const QString content =
+            properties->findItems(u"Content"_s, Qt::MatchExactly).value(0)->text(1);
+        QTextLayout layout(content, properties->font());
+        QTextOption option;
+        option.setTextDirection(properties->layoutDirection());
+        layout.setTextOption(option);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        QVERIFY(content.contains(u"8 × 4 pixels"_s));
+        QCOMPARE_LT(line.cursorToX(int(content.indexOf(u'4'))),
+                    line.cursorToX(int(content.indexOf(u'x'))));
+    }
 }
 
 void tst_Panels::findsInAllTexts()

@@ -3,6 +3,7 @@
 
 #include "views/PropertiesView.h"
 
+#include "Texts.h"
 #include "documents/Document.h"
 
 #include <QtCore/QDir>
@@ -43,7 +44,7 @@ void PropertiesView::showDocument(const Document *document)
 
 void PropertiesView::add(const QString &name, const QString &value)
 {
-    auto *item = new QTreeWidgetItem(this, {name, value});
+    auto *item = new QTreeWidgetItem(this, {name, isolated(value)});
     item->setToolTip(1, value);
 }
 
