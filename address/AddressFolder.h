@@ -22,9 +22,9 @@ struct Names
 };
 
 /*!
-    The names in \a folder, in the order of names, without the hidden ones and without those that no
-    QString can hold. A link counts as what it leads to; what is neither file nor folder is left
-   out. A folder that does not exist or may not be read has none.
+    The names in \a folder, in no order, without the hidden ones and without those that no QString
+    can hold. A link counts as what it leads to; what is neither file nor folder is left out. A
+    folder that does not exist or may not be read has none.
 */
 Names names(const QString &folder, Wanted wanted);
 
