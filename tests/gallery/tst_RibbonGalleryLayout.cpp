@@ -277,7 +277,7 @@ void tst_RibbonGalleryLayout::flowsLikeTheModel()
         QWidget host;
         host.setStyle(&hostStyle);
         hostStyle.host = &host;
-        hostStyle.metrics = dice.luck(2) ? Gaps{-1, -1} : dice.gaps(-1, 12);
+        hostStyle.metrics = dice.luck(2) ? Gaps{-1, -1} : dice.gaps(-3, 12);
         itemStyle.between = dice.gaps(-1, 12);
         Gaps ofParent{-1, -1};
         auto *layout = new RibbonGalleryLayout(parent == WidgetParent ? &host : nullptr, margin,
