@@ -29,6 +29,7 @@ private Q_SLOTS:
     void showsNothingWhenCollectingIsEnabled();
     void hidesItsMarkerWhenCollectingIsDisabled();
     void isCollectedByItsMarker();
+    void isCollectedAtOnce();
     void staysMarkedWhileItIsCollected();
     void tellsEachTime();
     void marksItselfEvenIfItCannotBeCollectedByHand();
@@ -164,8 +165,11 @@ void tst_RibbonGalleryItem::showsItsMarkerUnderTheMouse()
     window.item->setCollectEnabled(true);
     QVERIFY(window.open());
     QSignalSpy collected(window.item, &RibbonGalleryItem::signalCollected);
+    const QSignalSpy hovered(&action, &QAction::hovered);
     for (int i = 0; i < 2; ++i) {
         window.moveMouseIn();
+        // As every tool button, it tells its action.
+        QCOMPARE(hovered.count(), i + 1);
         QVERIFY(window.marker()->isVisible());
         QCOMPARE(pictureOf(window.marker()->icon()), drawing(u"collect"_s));
         // On the marker the mouse is still over the item.
@@ -245,6 +249,17 @@ void tst_RibbonGalleryItem::isCollectedByItsMarker()
     // Hidden although the mouse is over the item.
     QVERIFY(window.marker()->isHidden());
     QCOMPARE(triggered.count(), 0);
+}
+
+// Not when the event loop is reached.
+void tst_RibbonGalleryItem::isCollectedAtOnce()
+{
+    QAction action;
+    RibbonGalleryItem item(&action);
+    const QSignalSpy collected(&item, &RibbonGalleryItem::signalCollected);
+    item.findChild<QToolButton *>()->click();
+    QVERIFY(item.isCollected());
+    QCOMPARE(told(collected), QList<bool>({true}));
 }
 
 void tst_RibbonGalleryItem::staysMarkedWhileItIsCollected()

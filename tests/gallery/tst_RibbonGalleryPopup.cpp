@@ -62,6 +62,7 @@ private Q_SLOTS:
     void collectsACopyForEachTime();
     void uncollectsTheCopyOfAnItem();
     void uncollectsByTheCopy();
+    void uncollectsByTheCopyAtOnce();
     void uncollectsAnActionInSeveralGroups();
     void copyThatWasUncollectedGoesWhenItIsCollected();
     void collectsWhileItIsSearched();
@@ -1070,6 +1071,19 @@ void tst_RibbonGalleryPopup::uncollectsByTheCopy()
     QCOMPARE(window.popup()->height(), searchHeight + 98);
     window.closePopup();
     QTRY_COMPARE(window.strip().last(6).first(3), texts(3));
+}
+
+// Not when the event loop is reached.
+void tst_RibbonGalleryPopup::uncollectsByTheCopyAtOnce()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(2));
+    window.gallery->setItemCollected(0, 1, true);
+    const QPointer<RibbonGalleryItem> copy = window.collected()->item(0);
+    GalleryWindow::markerOf(copy)->click();
+    QVERIFY(!copy);
+    QCOMPARE(window.collected()->count(), 0);
+    QVERIFY(!window.item(0, 1)->isCollected());
 }
 
 void tst_RibbonGalleryPopup::uncollectsAnActionInSeveralGroups()
