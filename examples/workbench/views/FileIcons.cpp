@@ -7,25 +7,13 @@
 #include "files/FileCommands.h"
 #include "picture/PictureFormats.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeDatabase>
-#include <QtCore/QMutexLocker>
-#include <QtCore/QPointer>
 
 namespace Workbench {
 
-FileIcons *FileIcons::instance()
-{
-    static QPointer<FileIcons> icons;
-    if (!icons)
-        icons = new FileIcons(qApp);
-    return icons;
-}
-
-FileIcons::FileIcons(QObject *parent)
-    : QObject(parent)
-    , m_folder(Workbench::icon(QLatin1StringView("folder")))
+FileIcons::FileIcons()
+    : m_folder(Workbench::icon(QLatin1StringView("folder")))
     , m_other(Workbench::icon(QLatin1StringView("other-file")))
 {
     const QIcon text = Workbench::icon(QLatin1StringView("text-file"));
@@ -49,7 +37,6 @@ QString FileIcons::type(const QFileInfo &info) const
 {
     if (!info.isFile())
         return QAbstractFileIconProvider::type(info);
-    const QMutexLocker locker(&m_mutex);
     QString &type = m_types[info.suffix()];
     if (type.isEmpty()) {
         type = QMimeDatabase()

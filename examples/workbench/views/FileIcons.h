@@ -4,8 +4,6 @@
 #pragma once
 
 #include <QtCore/QHash>
-#include <QtCore/QMutex>
-#include <QtCore/QObject>
 #include <QtGui/QAbstractFileIconProvider>
 #include <QtGui/QIcon>
 
@@ -15,23 +13,19 @@ namespace Workbench {
     The tree's icons, which not every desktop has, and the names of types. Both come from the names
     of files alone: to look into thousands of files would keep the window from being used.
 */
-class FileIcons : public QObject, public QAbstractFileIconProvider
+class FileIcons : public QAbstractFileIconProvider
 {
 public:
-    //! Lives as long as the application, because threads of models may ask until they have ended.
-    static FileIcons *instance();
+    FileIcons();
 
     QIcon icon(IconType type) const override;
     QIcon icon(const QFileInfo &info) const override;
     QString type(const QFileInfo &info) const override;
 
 private:
-    explicit FileIcons(QObject *parent);
-
     const QIcon m_folder;
     const QIcon m_other;
     QHash<QString, QIcon> m_icons;
-    mutable QMutex m_mutex;
     mutable QHash<QString, QString> m_types;
 };
 

@@ -5,7 +5,6 @@
 
 #include "Icons.h"
 #include "files/FileCommands.h"
-#include "views/FileIcons.h"
 
 #include <Norvane/AddressBar.h>
 
@@ -34,7 +33,7 @@ FilesView::FilesView(AddressBar *bar, FileCommands *files)
         m_bar->addSuffix(suffix);
         m_bar->addSuffix(suffix.toUpper());
     }
-    m_model->setIconProvider(FileIcons::instance());
+    m_model->setIconProvider(&m_icons);
     // Otherwise every row above the one that is shown would be measured first.
     m_tree->setUniformRowHeights(true);
     auto *text = new QAction(icon("text-file"_L1), tr("Text Document"), this);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "views/FileIcons.h"
+
 #include <QtCore/QObject>
 
 class QFileSystemModel;
@@ -40,6 +42,7 @@ private:
     FileCommands *m_files;
     QTreeView *m_tree;
     QFileSystemModel *m_model;
+    FileIcons m_icons;
 };
 
 } // namespace Workbench
