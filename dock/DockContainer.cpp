@@ -14,6 +14,8 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QSplitter>
 
+#include <utility>
+
 namespace Norvane {
 
 namespace {
@@ -135,7 +137,18 @@ void DockContainerPrivate::arrange(QSplitter *splitter) const
     splitter->setSizes(sizes);
 }
 
-void DockContainerPrivate::onFirstView(QSplitter *splitter, const QWidget *pane) const
+void DockContainerPrivate::rememberShares()
+{
+    // A panel that is minimized before it has a width comes back with its share.
+    const auto remember = [this](const DockPanelWidget *panelWidget, int pane, qint32 *width) {
+        if (panelWidget && panelWidget->isMinimized() && *width == 0 && outerSplitter->widget(pane))
+            *width = shareOf(outerSplitter, outerSplitter->widget(pane));
+    };
+    remember(leftPanelWidget, 0, &leftWidth);
+    remember(rightPanelWidget, 2, &rightWidth);
+}
+
+void DockContainerPrivate::onFirstView(QSplitter *splitter, const QWidget *pane)
 {
     const int index = splitter->indexOf(const_cast<QWidget *>(pane));
     const int centre = splitter->indexOf(splitter == outerSplitter ? centreWidget : contentWidget);
@@ -143,6 +156,7 @@ void DockContainerPrivate::onFirstView(QSplitter *splitter, const QWidget *pane)
     // Before it is shown all panes are still to be arranged, and a restored size stays.
     if (!wasShown || index < 0 || centre < 0 || (sizes.at(index) > 0 && !isAway(pane)))
         return;
+    rememberShares();
     sizes[centre] += sizes.at(index);
     sizes[index] = isAway(pane) ? 0 : shareOf(splitter, pane);
     sizes[centre] -= sizes.at(index);
@@ -159,9 +173,8 @@ void DockContainerPrivate::minimizeSide(int pane, qint32 *width, bool minimized)
         sizes[1] += sizes.at(pane);
         sizes[pane] = 0;
     } else {
-        // A pane that was dragged to nothing at once has no width to go back to.
-        sizes[pane] = *width > 0 ? *width : shareOf(outerSplitter, outerSplitter->widget(pane));
-        sizes[1] -= sizes.at(pane);
+        sizes[pane] = *width;
+        sizes[1] -= *width;
     }
     outerSplitter->setSizes(sizes);
 }
@@ -179,8 +192,7 @@ void DockContainerPrivate::minimizeBottom(bool minimized)
         sizes[1] = 0;
     } else {
         const int height = innerSplitter->height();
-        // A height from a larger window would leave nothing of the content.
-        if (contentWidget->isVisible() && (bottomHeight == 0 || bottomHeight >= height))
+        if (contentWidget->isVisible() && (bottomHeight == 0 || bottomHeight == height))
             bottomHeight = height / 4;
         if (bottomHeight > 0) {
             sizes[1] = bottomHeight;
@@ -208,8 +220,9 @@ void DockContainerPrivate::setContentVisible(bool visible)
     if (sizes.size() != 2)
         return;
     const bool minimized = bottomPanelWidget && bottomPanelWidget->isMinimized();
-    // A splitter lets no pane that is alone stay collapsed.
-    if (minimized && sizes.at(1) != 0) {
+    // A splitter lets no pane that is alone stay collapsed, so that the content would not come up
+    // with all that the panel left it.
+    if (!std::exchange(contentWasShown, true) && minimized && sizes.at(1) != 0) {
         innerSplitter->setSizes({innerSplitter->height(), 0});
         return;
     }
@@ -366,6 +379,7 @@ void DockContainer::showEvent(QShowEvent *event)
     if (!d->restored)
         d->arrange(d->outerSplitter);
     d->arrange(d->innerSplitter);
+    d->rememberShares();
 }
 
 bool DockContainer::eventFilter(QObject *watched, QEvent *event)

@@ -26,7 +26,8 @@ public:
     void onOuterMoved();
     void onInnerMoved();
     void arrange(QSplitter *splitter) const;
-    void onFirstView(QSplitter *splitter, const QWidget *pane) const;
+    void rememberShares();
+    void onFirstView(QSplitter *splitter, const QWidget *pane);
     bool isAway(const QWidget *pane) const;
     void minimizeSide(int pane, qint32 *width, bool minimized);
     void minimizeBottom(bool minimized);
@@ -49,6 +50,7 @@ public:
     QWidget *centreWidget;
     bool wasShown = false;
     bool restored = false;
+    bool contentWasShown = false;
 };
 
 } // namespace Norvane

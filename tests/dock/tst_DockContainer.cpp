@@ -41,7 +41,7 @@ private Q_SLOTS:
     void minimizesASidePanel();
     void minimizesTheBottomPanel();
     void givesTheBottomPanelAQuarter();
-    void keepsTheContentWithAHeightFromALargerWindow();
+    void givesTheBottomPanelAHeightFromALargerWindow();
     void givesTheBottomPanelTheColumnOfNoContent();
     void keepsTheCentreWithAWidthFromALargerWindow();
     void keepsTheHeightsWhenTheContentComesBack();
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void marksADraggedSidePanel();
     void looksAtBothSidesWhicheverHandleIsDragged();
     void marksADraggedBottomPanel();
-    void bringsAPanelBackThatWasDraggedToNothingAtOnce();
+    void knowsNoWidthOfAPanelThatWasDraggedToNothingAtOnce();
     void setsPanesCollapsible();
     void keepsTheLeastSizeOfAPaneThatDoesNotCollapse();
     void hidesAllPanes();
@@ -395,6 +395,8 @@ void tst_DockContainer::givesTheBottomPanelAQuarter()
             Gui::click(DockWindow::button(window.bottom, 0));
             QCOMPARE(remembered(window.container->saveState(), 1), height);
             window.addTab();
+            settle();
+            QCOMPARE(window.inner()->sizes(), QList<int>({height, 0}));
         } else {
             window.inner()->setSizes({height, 0});
             window.bottom->setMinimized(true);
@@ -406,7 +408,7 @@ void tst_DockContainer::givesTheBottomPanelAQuarter()
     }
 }
 
-void tst_DockContainer::keepsTheContentWithAHeightFromALargerWindow()
+void tst_DockContainer::givesTheBottomPanelAHeightFromALargerWindow()
 {
     DockWindow window;
     window.addTab();
@@ -417,6 +419,11 @@ void tst_DockContainer::keepsTheContentWithAHeightFromALargerWindow()
     settle();
     const int height = window.inner()->height();
     QVERIFY(remembered(window.container->saveState(), 1) > height);
+    Gui::click(DockWindow::button(window.bottom, 0));
+    QCOMPARE(window.inner()->sizes(), QList<int>({0, height}));
+    // Then the column is what it remembers, and the content has its three quarters again.
+    Gui::click(DockWindow::button(window.bottom, 0));
+    QCOMPARE(window.inner()->sizes(), QList<int>({height, 0}));
     Gui::click(DockWindow::button(window.bottom, 0));
     QCOMPARE(window.inner()->sizes(), QList<int>({height - height / 4, height / 4}));
     QCOMPARE(window.size(), QSize(600, 300));
@@ -611,7 +618,7 @@ void tst_DockContainer::marksADraggedBottomPanel()
     QCOMPARE(remembered(window.container->saveState(), 1), pane->height());
 }
 
-void tst_DockContainer::bringsAPanelBackThatWasDraggedToNothingAtOnce()
+void tst_DockContainer::knowsNoWidthOfAPanelThatWasDraggedToNothingAtOnce()
 {
     DockWindow window;
     window.addTab();
@@ -624,7 +631,10 @@ void tst_DockContainer::bringsAPanelBackThatWasDraggedToNothingAtOnce()
     QVERIFY(window.left->isMinimized());
     Gui::click(DockWindow::button(window.left, 0));
     QVERIFY(!window.left->isMinimized());
-    QCOMPARE(window.left->stackedWidget()->width(), window.outer()->width() / 7);
+    QCOMPARE(window.left->stackedWidget()->width(), 0);
+    DockWindow::drag(handle, {200, 0});
+    QVERIFY(isNear(window.left->stackedWidget()->width(), 200));
+    QCOMPARE(remembered(window.container->saveState(), 0), window.left->stackedWidget()->width());
 }
 
 void tst_DockContainer::setsPanesCollapsible()
