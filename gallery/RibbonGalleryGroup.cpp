@@ -215,11 +215,9 @@ void RibbonGalleryGroup::showItems(bool show)
 {
     Q_D(RibbonGalleryGroup);
     const bool shown = show || count() <= FewItems || d->hasFocus();
-    if (shown) {
-        // Moving them costs least before they are shown.
-        layout()->activate();
+    // Moving them costs least before they are shown.
+    if (shown)
         d->itemsLayout->activate();
-    }
     if (shown != showsItems())
         d->groupFrame->setVisible(shown);
 }

@@ -125,7 +125,6 @@ void RibbonGalleryPopupPrivate::filter(const QString &text)
     noMatchLabel->setVisible(!anyMatches);
     updateHeight();
     contentFrame->layout()->setEnabled(true);
-    contentFrame->layout()->invalidate();
     q->arrange();
     heedGestures(q->isVisible());
 }

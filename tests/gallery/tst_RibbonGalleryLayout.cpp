@@ -494,7 +494,9 @@ void tst_RibbonGalleryLayout::givesItsItemsAway()
     QCOMPARE(layout.takeAt(-1), nullptr);
     QCOMPARE(layout.takeAt(3), nullptr);
     QCOMPARE(layout.count(), 3);
+    QCOMPARE(layout.heightForWidth(10), 30);
     const std::unique_ptr<QLayoutItem> taken(layout.takeAt(1));
+    QCOMPARE(layout.heightForWidth(10), 20);
     QCOMPARE(taken.get(), items.at(1));
     QCOMPARE(deleted, 0);
     QCOMPARE(layout.count(), 2);

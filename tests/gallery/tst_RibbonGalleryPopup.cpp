@@ -9,6 +9,8 @@
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QGesture>
+#include <QtWidgets/QGestureRecognizer>
 
 #include <functional>
 
@@ -54,6 +56,10 @@ private Q_SLOTS:
     void searchOfAnEmptyCatalogue();
 
     void showsItemsNearby();
+    void placesWhatItFindsAtOnce_data();
+    void placesWhatItFindsAtOnce();
+    void showsManyCollectedItems();
+    void heedsGesturesWhileItIsOpen();
     void lacksNoItemThatIsSeen_data();
     void lacksNoItemThatIsSeen();
 
@@ -134,6 +140,26 @@ public:
 
 private:
     std::function<void()> m_tell;
+};
+
+// Counts the events that may be part of somebody's pan gesture.
+class PanWatch : public QGestureRecognizer
+{
+public:
+    explicit PanWatch(int *asked)
+        : m_asked(asked)
+    {
+    }
+
+    QGesture *create(QObject *) override { return new QPanGesture; }
+    Result recognize(QGesture *, QObject *, QEvent *) override
+    {
+        ++*m_asked;
+        return Ignore;
+    }
+
+private:
+    int *m_asked;
 };
 
 // The first item that should be seen and is not, or that is not where it should be.
@@ -884,7 +910,7 @@ void tst_RibbonGalleryPopup::showsItemsNearby()
     QVERIFY(window.openPopup());
     QVERIFY(window.item(0, 0)->isVisible());
     QVERIFY(!window.item(2, 7)->isVisible());
-    window.search(u"Item 9"_s);
+    window.edit()->setText(u"Item 9"_s);
     for (int i = 0; i < 4; ++i) {
         QVERIFY(window.item(i, 99)->isVisible());
         QVERIFY(window.item(i, 8)->isHidden());
@@ -895,6 +921,83 @@ void tst_RibbonGalleryPopup::showsItemsNearby()
         QCOMPARE(window.item(i, 99)->isVisible(), i < 2);
     }
     window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::placesWhatItFindsAtOnce_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("few") << 30;
+    QTest::newRow("many") << 100;
+}
+
+// Otherwise what is painted first would be painted twice.
+void tst_RibbonGalleryPopup::placesWhatItFindsAtOnce()
+{
+    QFETCH(int, count);
+    GalleryWindow window;
+    for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s})
+        window.add(title, texts(count));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QCoreApplication::processEvents();
+    // Item 2 and ten more, in two rows; and then others in as many rows.
+    for (const int first : {2, 1}) {
+        window.edit()->setText(u"Item %1"_s.arg(first));
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(window.group(i)->y(), window.group(0)->y() + i * (24 + 5 + 2 * 60 + 5));
+            QCOMPARE(window.item(i, first)->pos(), QPoint(3, 5));
+            QCOMPARE(window.item(i, first * 10 + 9)->pos(), QPoint(3 + 4 * 90, 5 + 60));
+        }
+    }
+    window.closePopup();
+}
+
+void tst_RibbonGalleryPopup::showsManyCollectedItems()
+{
+    GalleryWindow window;
+    window.add(u"One"_s, texts(60));
+    for (int i = 0; i < 60; ++i)
+        window.gallery->setItemCollected(0, i, true);
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    QVERIFY(window.collected()->item(0)->isVisible());
+    window.popup()->verticalScrollBar()->setValue(window.popup()->verticalScrollBar()->maximum());
+    window.closePopup();
+    QVERIFY(window.openPopup());
+    QVERIFY(window.collected()->item(0)->isVisible());
+    window.search(u"x"_s);
+    QVERIFY(!window.collected()->item(0)->isVisible());
+    window.search(QString());
+    QVERIFY(window.collected()->item(0)->isVisible());
+    window.closePopup();
+}
+
+// As other scroll areas, but not for the thousands of events of a search.
+void tst_RibbonGalleryPopup::heedsGesturesWhileItIsOpen()
+{
+    int asked = 0;
+    QGestureRecognizer::registerRecognizer(new PanWatch(&asked));
+    GalleryWindow window;
+    window.add(u"One"_s, texts(100));
+    QVERIFY(window.open());
+    const auto heeds = [&] {
+        asked = 0;
+        QEvent event(QEvent::User);
+        QCoreApplication::sendEvent(window.popup()->viewport(), &event);
+        return asked > 0;
+    };
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(!heeds());
+        QVERIFY(window.openPopup());
+        QVERIFY(heeds());
+        asked = 0;
+        window.edit()->setText(u"12"_s);
+        QVERIFY(asked < 50);
+        QVERIFY(window.item(0, 99)->isHidden());
+        QVERIFY(heeds());
+        window.closePopup();
+    }
+    QGestureRecognizer::unregisterRecognizer(Qt::PanGesture);
 }
 
 void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen_data()
@@ -912,11 +1015,11 @@ void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen()
     QRandomGenerator random(seed);
     GalleryWindow window;
     for (int group = 0; group < 6; ++group)
-        window.add(QString::number(group), texts(int(random.bounded(80))));
+        window.add(QString::number(group), texts(random.bounded(80)));
     QVERIFY(window.open());
     QVERIFY(window.openPopup());
     for (int step = 0; step < 40; ++step) {
-        const int group = int(random.bounded(6));
+        const int group = random.bounded(6);
         switch (random.bounded(8)) {
         case 0:
         case 1:
@@ -925,10 +1028,10 @@ void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen()
         case 2:
         case 3:
             window.popup()->verticalScrollBar()->setValue(
-                int(random.bounded(window.popup()->verticalScrollBar()->maximum() + 1)));
+                random.bounded(window.popup()->verticalScrollBar()->maximum() + 1));
             break;
         case 4:
-            window.gallery->setItemCollected(group, int(random.bounded(80)), random.bounded(3));
+            window.gallery->setItemCollected(group, random.bounded(80), random.bounded(3));
             break;
         case 5:
             if (random.bounded(2))
@@ -937,7 +1040,7 @@ void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen()
                 GalleryWindow::toBottomOf(window.group(group))->click();
             break;
         case 6:
-            for (const QString &text : texts(int(random.bounded(40))))
+            for (const QString &text : texts(random.bounded(40)))
                 window.gallery->addItem(group, window.createAction(text));
             break;
         default:
