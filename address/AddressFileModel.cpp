@@ -5,6 +5,21 @@
 
 namespace Norvane {
 
+QString AddressFileIcons::type(const QFileInfo &info) const
+{
+    if (!info.isFile())
+        return QFileIconProvider::type(info);
+    if (const QLocale locale; locale != m_locale) {
+        m_locale = locale;
+        m_names.clear();
+    }
+    const QMimeType type = m_database.mimeTypeForFile(info);
+    QString &name = m_names[type.name()];
+    if (name.isEmpty())
+        name = type.comment().isEmpty() ? type.name() : type.comment();
+    return name;
+}
+
 AddressFileModelPrivate::~AddressFileModelPrivate() = default;
 
 AddressFileModel::AddressFileModel(QObject *parent)
@@ -18,9 +33,13 @@ AddressFileModel::AddressFileModel(AddressFileModelPrivate &dd, QObject *parent)
 {
     Q_D(AddressFileModel);
     d->q_ptr = this;
+    setIconProvider(&d->icons);
 }
 
-AddressFileModel::~AddressFileModel() = default;
+AddressFileModel::~AddressFileModel()
+{
+    setIconProvider(nullptr);
+}
 
 QVariant AddressFileModel::data(const QModelIndex &index, int role) const
 {

@@ -86,10 +86,8 @@ QString typed(const QString &text, Style style)
     QStringList names = text.split(separator, Qt::SkipEmptyParts);
     for (QString &name : names)
         name = name.trimmed();
-    const QString joined = names.join(u'\\');
-    if (style == Style::SingleRoot && separator.match(text.left(1)).hasMatch())
-        return u'\\' + joined;
-    return joined;
+    const bool rooted = style == Style::SingleRoot && separator.match(text.left(1)).hasMatch();
+    return (rooted ? QStringLiteral("\\") : QString()) + names.join(u'\\');
 }
 
 } // namespace Norvane::AddressPath

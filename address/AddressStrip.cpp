@@ -33,6 +33,7 @@ public:
 
     void setGeometry(const QRect &rect) override
     {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): what a box does is to squeeze.
         QLayout::setGeometry(rect);
         QPoint start = rect.topLeft();
         for (int i = 0; i < count(); ++i) {
