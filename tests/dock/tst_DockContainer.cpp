@@ -45,6 +45,8 @@ private Q_SLOTS:
     void givesTheBottomPanelTheColumnOfNoContent();
     void keepsTheCentreWithAWidthFromALargerWindow();
     void keepsTheHeightsWhenTheContentComesBack();
+    void leavesTheContentCollapsedThatWasSo();
+    void linesTheBarUpInAWindowThatOnlyGetsWider();
     void sharesTheColumnWhenTheContentComesBack();
     void leavesAHiddenPaneMinimizedWhenTheContentComesBack();
     void opensTheBottomPanelWhenTheContentGoes();
@@ -261,6 +263,11 @@ void tst_DockContainer::givesViewsThatComeLaterTheirShare()
     window.left->addView(new QWidget, QIcon(), u"view"_s);
     settle();
     QCOMPARE(window.outer()->sizes(), sizes);
+
+    // Nor does another page, in a pane that was made narrow by a program.
+    window.outer()->setSizes({0, width - 150, 150});
+    window.left->setCurrentIndex(1);
+    QCOMPARE(window.outer()->sizes(), QList<int>({0, width - 150, 150}));
 }
 
 void tst_DockContainer::comesUpWithMinimizedPanels_data()
@@ -492,6 +499,38 @@ void tst_DockContainer::keepsTheHeightsWhenTheContentComesBack()
     QCOMPARE(window.inner()->sizes(), sizes);
 }
 
+void tst_DockContainer::leavesTheContentCollapsedThatWasSo()
+{
+    DockWindow window;
+    window.addTab();
+    QVERIFY(Gui::open(&window));
+    const QList<int> sizes{0, window.inner()->height()};
+    window.inner()->setSizes(sizes);
+    QCOMPARE(window.inner()->sizes(), sizes);
+    window.content->removeTab(0, 0);
+    settle();
+    window.addTab();
+    settle();
+    QVERIFY(window.content->isVisible());
+    QCOMPARE(window.inner()->sizes(), sizes);
+}
+
+void tst_DockContainer::linesTheBarUpInAWindowThatOnlyGetsWider()
+{
+    DockWindow window;
+    window.addTab();
+    window.container->setupMainWindow(&window);
+    QVERIFY(Gui::open(&window));
+    settle();
+    const int before = window.bottom->panel()->mapTo(&window, QPoint()).x();
+    const QRect bottom = window.bottom->stackedWidget()->geometry();
+    window.resize(window.width() + 500, window.height());
+    QCOMPARE(window.bottom->stackedWidget()->pos(), bottom.topLeft());
+    const int after = window.content->mapTo(&window, QPoint()).x();
+    QVERIFY(after > before);
+    QCOMPARE(window.bottom->panel()->mapTo(&window, QPoint()).x(), after);
+}
+
 void tst_DockContainer::sharesTheColumnWhenTheContentComesBack()
 {
     DockWindow window;
@@ -612,6 +651,7 @@ void tst_DockContainer::marksADraggedBottomPanel()
     DockWindow::drag(handle, {0, 260});
     QCOMPARE(window.inner()->sizes(), QList<int>({height, 0}));
     QVERIFY(window.bottom->isMinimized());
+    QVERIFY(remembered(window.container->saveState(), 1) > 0);
     DockWindow::drag(handle, {0, -180});
     QVERIFY(!window.bottom->isMinimized());
     QVERIFY(isNear(pane->height(), 180));

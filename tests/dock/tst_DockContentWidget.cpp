@@ -32,6 +32,8 @@ private Q_SLOTS:
     void tellsOfTheLastTabThatIsDeleted();
     void changesSectionsAndTabs();
     void tellsOfATabInAnotherSectionOnce();
+    void tellsOfTheSameIndexInAnotherSection();
+    void keepsTheEntryOfASectionWithHiddenTabs();
     void goesToASectionWithoutTabs();
     void tellsAgainThatThereIsNoTab();
     void answersForItsTabs();
@@ -205,7 +207,9 @@ void tst_DockContentWidget::tellsOfTheLastTab()
             QCOMPARE(host.emitted(), expected);
             QCOMPARE(host.sections()->isHidden(), shown);
             QVERIFY(widget->isHidden());
-            delete widget;
+            // The same place again is a new tab.
+            host.content->addTab(0, widget, u"one"_s);
+            QVERIFY(host.emitted().contains(Signal(u"tab"_s, {0, 0})));
         }
     }
 }
@@ -271,6 +275,35 @@ void tst_DockContentWidget::tellsOfATabInAnotherSectionOnce()
     QTabBar *sectionBar = host.sections()->tabBar();
     Gui::click(sectionBar, sectionBar->tabRect(0).center());
     QCOMPARE(host.emitted(), QList<Signal>({{u"section"_s, {0}}}));
+}
+
+void tst_DockContentWidget::tellsOfTheSameIndexInAnotherSection()
+{
+    Host host;
+    QVERIFY(Gui::open(&host));
+    host.add(0);
+    host.emitted();
+    host.add(1);
+    QCOMPARE(host.emitted(), QList<Signal>({{u"tab"_s, {1, 0}}}));
+    host.content->setCurrentTab(1, 0);
+    host.emitted();
+    host.content->setCurrentTab(0, 0);
+    QCOMPARE(host.emitted(), QList<Signal>({{u"section"_s, {0}}, {u"tab"_s, {0, 0}}}));
+}
+
+void tst_DockContentWidget::keepsTheEntryOfASectionWithHiddenTabs()
+{
+    Host host;
+    host.add(0);
+    host.add(0);
+    host.content->setTabVisible(0, 1, false);
+    QVERIFY(Gui::open(&host));
+    QWidget *first = host.content->widget(0, 0);
+    host.content->removeTab(0, 0);
+    delete first;
+    QCOMPARE(host.content->currentTab(0), -1);
+    QCOMPARE(host.content->tabCount(0), 1);
+    QVERIFY(host.content->isSectionVisible(0));
 }
 
 void tst_DockContentWidget::goesToASectionWithoutTabs()

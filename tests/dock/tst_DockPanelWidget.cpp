@@ -10,6 +10,7 @@
 #include <dock/DockPanel.h>
 #include <dock/DockTitle.h>
 #include <dock/DockView.h>
+#include <style/StyleSheet.h>
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>
@@ -281,15 +282,21 @@ void tst_DockPanelWidget::collapsesAViewToItsTitle()
         host.panelWidget->tabifyView(0, new QWidget, QIcon(), u"two"_s);
         DockView *view = host.view(0, position);
         view->setCollapseButtonVisible(true);
+        host.setStyleSheet(StyleSheet::read(u":/res/dockLight.css"_s));
         QVERIFY(Gui::open(&host));
         host.page(0)->setSizes({150, 250});
         QCOMPARE(host.page(0)->sizes(), QList<int>({150, 250}));
+        // The second view has a border above its title.
+        const int title = qMax(view->titleHeight(), view->minimumSizeHint().height());
+        QVERIFY(title < 50);
         Gui::click(collapseButtonOf(view));
-        QList<int> expected{view->titleHeight(), view->titleHeight()};
-        expected[1 - position] = 400 - view->titleHeight();
+        QList<int> expected{title, title};
+        expected[1 - position] = 400 - title;
         QCOMPARE(host.page(0)->sizes(), expected);
+        // What is made larger is not collapsed again by the button that is let go.
+        host.page(0)->setSizes({150, 250});
         Gui::click(collapseButtonOf(view));
-        QCOMPARE(host.page(0)->sizes(), expected);
+        QCOMPARE(host.page(0)->sizes(), QList<int>({150, 250}));
     }
 }
 
@@ -594,6 +601,24 @@ void tst_DockPanelWidget::diesBeforeAndAfterItsWidgets()
         host.stack->setCurrentIndex(1);
         Gui::open(const_cast<Host *>(&host));
         Gui::click(host.button(1));
+    }
+    {
+        auto *placedNowhere = new DockPanelWidget(DockPanelWidget::LeftDirection);
+        const QPointer<QWidget> panel(placedNowhere->panel());
+        const QPointer<QWidget> stack(placedNowhere->stackedWidget());
+        delete placedNowhere;
+        QVERIFY(!panel);
+        QVERIFY(!stack);
+    }
+    {
+        // A view that is alone on its page has nobody to leave its room to.
+        const Host host;
+        host.add();
+        host.panelWidget->tabifyView(0, new QWidget, QIcon(), u"two"_s);
+        DockView *second = host.view(0, 1);
+        delete host.view(0, 0);
+        Q_EMIT second->signalCollapsed(true);
+        QCOMPARE(host.page(0)->count(), 1);
     }
     DockPanelWidget panelWidget(DockPanelWidget::LeftDirection);
     panelWidget.addView(new QWidget, QIcon(), u"one"_s);

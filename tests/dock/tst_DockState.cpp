@@ -24,6 +24,7 @@ class tst_DockState : public TestCase
 private Q_SLOTS:
     void writesWhatItReads();
     void readsEveryLayoutOfASplitter();
+    void readsAPaneThatWasNeverShown();
     void readsTheLayoutOfALaterQt();
     void refusesWhatNoSplitterWrites_data();
     void refusesWhatNoSplitterWrites();
@@ -162,6 +163,22 @@ void tst_DockState::readsEveryLayoutOfASplitter()
     QVERIFY(separators > 0);
 }
 
+void tst_DockState::readsAPaneThatWasNeverShown()
+{
+    QByteArray states[2];
+    for (const bool hidden : {false, true}) {
+        QSplitter splitter;
+        for (int i = 0; i < 3; ++i)
+            splitter.addWidget(new QWidget);
+        splitter.widget(0)->setHidden(hidden);
+        splitter.resize(600, 100);
+        splitter.show();
+        states[hidden] = splitter.saveState();
+    }
+    QCOMPARE(states[true].mid(sizesAt, 4), QByteArray(4, '\xff'));
+    QVERIFY(DockState::fromBytes(DockState{states[true], 1, 2, 3}.toBytes(), states[false]));
+}
+
 void tst_DockState::readsTheLayoutOfALaterQt()
 {
     QSplitter splitter;
@@ -179,6 +196,8 @@ void tst_DockState::readsTheLayoutOfALaterQt()
     const QByteArray other = later.first(12) + QByteArray(30, '\x15');
     QVERIFY(DockState::fromBytes(DockState{other, 1, 2, 3}.toBytes(), other));
     QVERIFY(!DockState::fromBytes(DockState{other + '\x15', 1, 2, 3}.toBytes(), other));
+    const QByteArray brief = later.first(12) + "brief";
+    QVERIFY(DockState::fromBytes(DockState{brief, 1, 2, 3}.toBytes(), brief));
 }
 
 void tst_DockState::refusesWhatNoSplitterWrites_data()
@@ -220,6 +239,7 @@ void tst_DockState::refusesWhatNoSplitterWrites_data()
     QTest::newRow("too few remembered sizes") << good + tail.chopped(1);
     QTest::newRow("without separator") << good;
     QTest::newRow("two separators") << good + tail + '\x7c';
+    QTest::newRow("remembered twice") << good + tail + tail;
     QTest::newRow("negative width") << good + DockState{{}, -1, 20, 30}.toBytes();
     QTest::newRow("negative height") << good + DockState{{}, 10, -20, 30}.toBytes();
     QTest::newRow("width beyond every widget")
