@@ -17,6 +17,7 @@
 #include <QtGui/QFileSystemModel>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QFileIconProvider>
 #include <QtWidgets/QTreeView>
 
 #include <cstdio>
@@ -121,7 +122,10 @@ private:
 void measureLoad(const QString &side, const QString &folder, int count, Recorder *recorder)
 {
     Norvane::AddressBar bar;
+    // Without a theme the model's own would paint none, which is less work.
+    QFileIconProvider plainIcons;
     QFileSystemModel plainModel;
+    plainModel.setIconProvider(&plainIcons);
     QTreeView plainView;
     QTreeView *view = &plainView;
     QElapsedTimer timer;
