@@ -35,7 +35,7 @@ struct StyleIcons
     QIcon drive;
     QIcon folder;
 };
-Q_APPLICATION_STATIC(StyleIcons, styleIcons)
+Q_APPLICATION_STATIC(StyleIcons, styleIcons, )
 
 // A menu that connects its actions by functions. Others do so by the names of signals and slots,
 // and look them up again for every action, which is a third of what building them takes.

@@ -267,9 +267,9 @@ void AddressFileOperations::copyFolder(const QString &source, const QString &tar
     names.folders.sort(Qt::CaseInsensitive);
     if (!names.complete)
         showError(Unknown, source, target);
-    for (const QString &name : names.files)
+    for (const QString &name : std::as_const(names.files))
         copyFile(from.filePath(name), to.filePath(name), overwrite);
-    for (const QString &name : names.folders) {
+    for (const QString &name : std::as_const(names.folders)) {
         // A link may lead back to where the copy comes from or goes to, and would do so for ever.
         const QString folder = QFileInfo(from, name).canonicalFilePath();
         if (!m_entered.contains(folder) && !isInside(to.canonicalPath(), folder))

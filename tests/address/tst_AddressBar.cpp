@@ -649,7 +649,7 @@ void tst_AddressBar::agreesWithAModel()
                 model.slot(into);
                 break;
             }
-            case 8:
+            default:
                 story->append(QStringLiteral("reset to ") + path);
                 window.bar->resetPath(path);
                 model.reset(path);
@@ -678,7 +678,7 @@ void tst_AddressBar::agreesWithAModel()
     QRandomGenerator random(seed);
     QList<Steps::Step> steps;
     for (int i = 0; i < 50; ++i)
-        steps << Steps::Step{int(random.bounded(9)), int(random.bounded(1000))};
+        steps << Steps::Step{random.bounded(9), random.bounded(1000)};
     const QString wrong = Steps::play(steps, play);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }

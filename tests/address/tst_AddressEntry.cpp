@@ -167,7 +167,7 @@ QString otherBorders(const Shot &shot, const QList<int> &lefts, int right)
     QList<QPoint> columns{QPoint((right + 1) * ratio - 1, -1)};
     for (const int left : lefts)
         columns << QPoint(left * ratio, 1);
-    for (const QPoint column : columns) {
+    for (const QPoint column : std::as_const(columns)) {
         for (int y = 0; y < 22 * ratio; ++y) {
             if (shot.device(column.x(), y) != border
                 || shot.device(column.x() + column.y(), y) == border)

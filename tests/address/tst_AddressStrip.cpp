@@ -446,11 +446,12 @@ void tst_AddressStrip::keepsCrumbsAtTheirPlacesWhenTheyDoNotFit()
         int x = 24;
         const QList<AddressEntry *> entries = entriesOf(window.strip);
         for (const AddressEntry *entry : entries) {
-            if (entry->x() != x || entry->minimumWidth() != entry->width())
+            if (entry->x() != x || entry->minimumWidth() != entry->width()) {
                 return QStringLiteral("%1 is at %2, not %3")
                     .arg(entry->text())
                     .arg(entry->x())
                     .arg(x);
+            }
             x += entry->width();
         }
         return x > window.strip->width() ? QString() : QStringLiteral("everything fits");
@@ -1504,7 +1505,7 @@ void tst_AddressStrip::agreesWithAModel()
                 window.click(step.number % 2 ? window.patch : window.field);
                 model.navigate(model.path);
                 break;
-            case 9:
+            default:
                 tell(QStringLiteral("type ") + path);
                 window.clickIntoStrip();
                 model.edit();
@@ -1532,7 +1533,7 @@ void tst_AddressStrip::agreesWithAModel()
     QRandomGenerator random(seed);
     QList<Steps::Step> steps;
     for (int i = 0; i < 60; ++i)
-        steps << Steps::Step{int(random.bounded(10)), int(random.bounded(1000))};
+        steps << Steps::Step{random.bounded(10), random.bounded(1000)};
     const QString wrong = Steps::play(steps, play);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }

@@ -563,8 +563,9 @@ void tst_AddressTree::selectsWhereItCameFrom()
              files.path(selected.isEmpty() ? folder : folder + u'/' + selected.constFirst()));
     QVERIFY(tree.load());
     QCOMPARE(tree.selected(), selected);
-    for (const QModelIndex &index : tree.selectionModel()->selectedRows())
-        QCOMPARE(index.parent(), tree.rootIndex());
+    const QModelIndexList rows = tree.selectionModel()->selectedRows();
+    for (const QModelIndex &row : rows)
+        QCOMPARE(row.parent(), tree.rootIndex());
 }
 
 void tst_AddressTree::selectsWhereItCameFromWithAKeyDown_data()
