@@ -33,7 +33,7 @@ HomePage::HomePage(FileCommands *files, RecentFiles *recent, QWidget *parent)
     addHistoryGroup();
     addFindGroup();
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &HomePage::refresh);
-    refresh();
+    HomePage::refresh();
 }
 
 void HomePage::addFileGroup(RecentFiles *recent)

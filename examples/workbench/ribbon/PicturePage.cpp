@@ -70,7 +70,7 @@ PicturePage::PicturePage(QWidget *parent)
     connect(m_effects, &EffectGallery::picked, this,
             [this](const PictureEffect &effect) { picture()->apply(effect); });
     addColumn(addGroup(tr("Effects")))->addWidget(m_effects);
-    refresh();
+    PicturePage::refresh();
 }
 
 QAction *PicturePage::addTurn(const Command &command, PictureTurnCommand::Turn turn)

@@ -31,7 +31,7 @@ TextPage::TextPage(TextOptions *options, QWidget *parent)
     addLinesGroup();
     addCaseGroup();
     addSnippetsGroup();
-    refresh();
+    TextPage::refresh();
 }
 
 void TextPage::addFontGroup()

@@ -59,7 +59,7 @@ ViewPage::ViewPage(TextOptions *textOptions, QWidget *parent)
     Norvane::RibbonGroup *window = addGroup(tr("Window"));
     window->addAction(m_fullScreen);
     window->addAction(options);
-    refresh();
+    ViewPage::refresh();
 }
 
 void ViewPage::setFullScreen(bool fullScreen)
