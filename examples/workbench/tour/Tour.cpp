@@ -549,7 +549,8 @@ QToolButton *Tour::button(const QString &command) const
 QStringList Tour::items(const QWidget *gallery)
 {
     QList<const QToolButton *> items;
-    for (const QToolButton *item : gallery->findChildren<QToolButton *>()) {
+    const auto buttons = gallery->findChildren<QToolButton *>();
+    for (const QToolButton *item : buttons) {
         // Markers and the sign in the search field have no text.
         if (item->isVisible() && !item->text().isEmpty())
             items << item;
