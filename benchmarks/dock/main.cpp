@@ -70,11 +70,12 @@ void measureViews(const QString &side, int views, int restores, Recorder *record
     });
     recorder->memory(QStringLiteral("before restores"));
     const qsizetype widgets = QApplication::allWidgets().size();
-    if (restores > 0)
+    if (restores > 0) {
         recorder->measure(QStringLiteral("many restores"), restores, [&](int) {
             subject->restore(state);
             settle();
         });
+    }
     recorder->memory(QStringLiteral("after restores"));
     recorder->add(QStringLiteral("more widgets"), int(QApplication::allWidgets().size() - widgets));
 }

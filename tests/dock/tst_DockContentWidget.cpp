@@ -223,7 +223,8 @@ void tst_DockContentWidget::tellsOfTheLastTabThatIsDeleted()
     host.emitted();
     delete widget;
     QCOMPARE(host.content->tabCount(1), 0);
-    QCOMPARE(host.emitted().last(3),
+    const QList<Signal> emitted = host.emitted();
+    QCOMPARE(emitted.last(3),
              QList<Signal>({{u"visible"_s, {0}}, {u"section"_s, {-1}}, {u"tab"_s, {-1, -1}}}));
     QVERIFY(host.sections()->isHidden());
     host.add(0);

@@ -195,7 +195,8 @@ void tst_DockTabBar::closesByPressAndRelease()
     Gui::press(host.bar(), buttonAt(host.bar(), 1));
     QCOMPARE(requested.count(), 0);
     Gui::release(host.bar(), buttonAt(host.bar(), 1));
-    QCOMPARE(requested, QList<QVariantList>({{1}}));
+    QCOMPARE(requested.count(), 1);
+    QCOMPARE(requested.constFirst(), QVariantList({1}));
     QCOMPARE(clicked.count(), 0);
     QCOMPARE(host.tabs->currentIndex(), 0);
     // A second click that comes at once is a click as well.
