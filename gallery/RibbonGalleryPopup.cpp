@@ -125,6 +125,8 @@ void RibbonGalleryPopupPrivate::filter(const QString &text)
     noMatchLabel->setVisible(!anyMatches);
     updateHeight();
     contentFrame->layout()->setEnabled(true);
+    // It heard of no new size meanwhile, and would lay out what was painted already.
+    contentFrame->layout()->invalidate();
     q->arrange();
     heedGestures(q->isVisible());
 }

@@ -927,6 +927,7 @@ void tst_RibbonGalleryPopup::placesWhatItFindsAtOnce_data()
 {
     QTest::addColumn<int>("count");
     QTest::newRow("few") << 30;
+    QTest::newRow("more") << 45;
     QTest::newRow("many") << 100;
 }
 
@@ -948,6 +949,15 @@ void tst_RibbonGalleryPopup::placesWhatItFindsAtOnce()
             QCOMPARE(window.item(i, first)->pos(), QPoint(3, 5));
             QCOMPARE(window.item(i, first * 10 + 9)->pos(), QPoint(3 + 4 * 90, 5 + 60));
         }
+    }
+    // Without anything to see there is no scroll bar.
+    window.edit()->setText(u"x"_s);
+    window.edit()->clear();
+    const int height = 24 + 5 + (count + 5) / 6 * 60 + 5;
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(window.group(i)->width(), window.popup()->widget()->width());
+        QCOMPARE(window.group(i)->y(), window.group(0)->y() + i * height);
+        QCOMPARE(window.item(i, 5)->pos(), QPoint(3 + 5 * 90, 5));
     }
     window.closePopup();
 }
