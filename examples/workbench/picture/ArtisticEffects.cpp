@@ -15,7 +15,7 @@ static QImage embossed(const QImage &image)
 {
     const QImage light = Pixels::withLightness(image);
     if (light.isNull())
-        return light;
+        return {};
     const Pixels::Lines<const QRgb> lines(light);
     return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
         const QRgb *above = lines[place.y()] + place.x();
@@ -29,7 +29,7 @@ static QImage drawn(const QImage &image)
 {
     const QImage light = Pixels::withLightness(image);
     if (light.isNull())
-        return light;
+        return {};
     const Pixels::Lines<const QRgb> lines(light);
     return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
         const QRgb *above = lines[place.y()] + place.x();
@@ -85,7 +85,7 @@ static QImage painted(const QImage &image)
     constexpr int reach = 3;
     const QImage light = Pixels::withLightness(image);
     if (light.isNull())
-        return light;
+        return {};
     const Pixels::Lines<const QRgb> from(light);
     QImage result = Pixels::straight(image);
     const Pixels::Lines<QRgb> to(result);

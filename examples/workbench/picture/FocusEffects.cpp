@@ -51,7 +51,7 @@ static QImage despeckled(const QImage &image)
 {
     const QImage light = Pixels::withLightness(image);
     if (light.isNull())
-        return light;
+        return {};
     const Pixels::Lines<const QRgb> lines(light);
     return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
         // The lightness comes first in the number. The middle one of nine is among the highest of

@@ -23,13 +23,14 @@ static void average(const uchar *from, uchar *to, int count, qsizetype stride, C
         for (size_t i = 0; i < columns; ++i)
             sums[i] += sign * bytes[i];
     };
-    const float part = 1 / float(2 * radius + 1);
+    const auto width = float(2 * radius + 1);
+    const float part = 1 / width;
     for (int i = -radius; i <= radius; ++i)
         add(i, 1);
     for (int i = 0; i < count; ++i) {
         uchar *bytes = to + i * stride;
         for (size_t column = 0; column < columns; ++column)
-            bytes[column] = uchar(int(float(sums[column]) * part + 0.5F));
+            bytes[column] = uchar(int((float(sums[column]) + width / 2) * part));
         add(i + radius + 1, 1);
         add(i - radius, -1);
     }
