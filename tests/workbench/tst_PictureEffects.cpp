@@ -592,12 +592,13 @@ void tst_PictureEffects::worksOnLargePictures()
     QCOMPARE(changed.size(), image.size());
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (changed.pixel(x, y) != definition(image, x, y))
+            if (changed.pixel(x, y) != definition(image, x, y)) {
                 QFAIL(qPrintable(QStringLiteral("%1, %2: %3 and not %4")
                                      .arg(x)
                                      .arg(y)
                                      .arg(changed.pixelColor(x, y).name(),
                                           QColor(definition(image, x, y)).name())));
+            }
         }
     }
 }
