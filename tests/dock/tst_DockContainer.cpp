@@ -1080,7 +1080,7 @@ void tst_DockContainer::agreesWithAModel()
                 if (dragged.at(0) + dragged.at(1) + dragged.at(2) != width)
                     return u"room was lost"_s;
                 sizes = dragged;
-                for (int other : {0, 1}) {
+                for (const qsizetype other : {0, 1}) {
                     if (sizes.at(2 * other) > 0)
                         known[other] = sizes.at(2 * other);
                 }

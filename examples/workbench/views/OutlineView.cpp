@@ -66,7 +66,8 @@ void OutlineView::fill()
         }
         before = block;
     }
-    for (const auto &[text, position] : headings.isEmpty() ? paragraphs : headings) {
+    const QList<std::pair<QString, int>> &shown = headings.isEmpty() ? paragraphs : headings;
+    for (const auto &[text, position] : shown) {
         auto *item = new QListWidgetItem(text, this);
         item->setData(Qt::UserRole, position);
         item->setToolTip(text);
