@@ -14,7 +14,7 @@
 
 namespace Workbench {
 
-static constexpr qint64 largestText = 64 * 1024 * 1024;
+static constexpr qint64 largestText = qint64(64) * 1024 * 1024;
 
 TextDocument::TextDocument(TextOptions *options, QWidget *parent)
     : Document(parent)
