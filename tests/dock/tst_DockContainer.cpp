@@ -88,7 +88,7 @@ bool isNear(int size, int expected)
     return qAbs(size - expected) <= 3;
 }
 
-qint32 remembered(const QByteArray &state, int number)
+qint32 remembered(const QByteArray &state, qsizetype number)
 {
     return qFromLittleEndian<qint32>(state.constData() + state.size() - 12 + 4 * number);
 }
