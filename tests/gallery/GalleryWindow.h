@@ -168,7 +168,8 @@ public:
     QStringList strip() const
     {
         QStringList texts;
-        for (const Norvane::RibbonGalleryItem *cell : cells()) {
+        const QList<Norvane::RibbonGalleryItem *> shown = cells();
+        for (const Norvane::RibbonGalleryItem *cell : shown) {
             const bool empty = cell->text().isEmpty() && !cell->isEnabled();
             texts << (empty ? QStringLiteral("-") : cell->text());
         }

@@ -422,7 +422,8 @@ void tst_RibbonGallery::stripStaysIfNothingChanged()
     window.add(u"One"_s, texts(7));
     QVERIFY(window.open());
     QList<QPointer<RibbonGalleryItem>> before;
-    for (RibbonGalleryItem *cell : window.cells())
+    const QList<RibbonGalleryItem *> cells = window.cells();
+    for (RibbonGalleryItem *cell : cells)
         before << cell;
     QCOMPARE(before.size(), 6);
     window.gallery->hide();
@@ -450,7 +451,8 @@ void tst_RibbonGallery::stripCannotBeCollected()
     window.add(u"One"_s, texts(2));
     window.gallery->setItemCollected(0, 0, true);
     QVERIFY(window.open());
-    for (const RibbonGalleryItem *cell : window.cells()) {
+    const QList<RibbonGalleryItem *> cells = window.cells();
+    for (const RibbonGalleryItem *cell : cells) {
         QVERIFY(GalleryWindow::markerOf(cell)->isHidden());
         Gui::moveMouse(cell, {45, 30});
         QVERIFY(GalleryWindow::markerOf(cell)->isHidden());
@@ -583,7 +585,8 @@ void tst_RibbonGallery::newSizesAreForNewItems()
 
     // The strip's items and the collected copies are new ones too.
     QVERIFY(window.open());
-    for (const RibbonGalleryItem *cell : window.cells())
+    const QList<RibbonGalleryItem *> cells = window.cells();
+    for (const RibbonGalleryItem *cell : cells)
         QCOMPARE(cell->size(), QSize(50, 40));
     QCOMPARE(window.cells().at(0)->iconSize(), QSize(16, 18));
     window.gallery->setActionSize({60, 45});

@@ -103,7 +103,8 @@ QList<int> heights(const QSignalSpy &spy)
 QStringList titles(const GalleryWindow &window)
 {
     QStringList result;
-    for (const RibbonGalleryGroup *group : window.groups())
+    const QList<RibbonGalleryGroup *> groups = window.groups();
+    for (const RibbonGalleryGroup *group : groups)
         result << group->title();
     result.removeFirst();
     return result;
@@ -114,7 +115,8 @@ QString buttons(const GalleryWindow &window)
 {
     QString up;
     QString down;
-    for (const RibbonGalleryGroup *group : window.groups()) {
+    const QList<RibbonGalleryGroup *> groups = window.groups();
+    for (const RibbonGalleryGroup *group : groups) {
         up += GalleryWindow::toTopOf(group)->isHidden() ? QString() : group->title();
         down += GalleryWindow::toBottomOf(group)->isHidden() ? QString() : group->title();
     }
@@ -161,7 +163,8 @@ public:
 QString notSeen(const GalleryWindow &window)
 {
     const QRect page = window.popup()->viewport()->rect();
-    for (const RibbonGalleryGroup *group : window.groups()) {
+    const QList<RibbonGalleryGroup *> groups = window.groups();
+    for (const RibbonGalleryGroup *group : groups) {
         const int columns = (group->width() - 6) / 90;
         int place = 0;
         for (int i = 0; i < group->count() && group->isVisible(); ++i) {
@@ -260,7 +263,8 @@ void tst_RibbonGalleryPopup::standsItsPartsInAColumn()
     for (const auto &[title, rows] : {std::pair(u"collected"_s, 1), std::pair(u"One"_s, 2),
                                       std::pair(u"Two"_s, 0), std::pair(u"Three"_s, 1)}) {
         const RibbonGalleryGroup *group = nullptr;
-        for (const RibbonGalleryGroup *candidate : window.groups())
+        const QList<RibbonGalleryGroup *> groups = window.groups();
+        for (const RibbonGalleryGroup *candidate : groups)
             group = candidate->title() == title ? candidate : group;
         QVERIFY(group);
         QCOMPARE(group->mapTo(content, QPoint()), QPoint(0, y));
@@ -550,7 +554,8 @@ void tst_RibbonGalleryPopup::tellsItsHeight()
     QVERIFY(window.openPopup());
     const int all = searchHeight + neededHeight(7) + 98;
     QVERIFY(!told.isEmpty());
-    for (const int height : heights(told))
+    const QList<int> first = heights(told);
+    for (const int height : first)
         QCOMPARE(height, all);
     told.clear();
     window.search(u"x"_s);
@@ -1042,10 +1047,12 @@ void tst_RibbonGalleryPopup::lacksNoItemThatIsSeen()
             else
                 GalleryWindow::toBottomOf(window.group(group))->click();
             break;
-        case 6:
-            for (const QString &text : texts(random.bounded(40)))
+        case 6: {
+            const QStringList added = texts(random.bounded(40));
+            for (const QString &text : added)
                 window.gallery->addItem(group, window.createAction(text));
             break;
+        }
         default:
             window.closePopup();
             QVERIFY(window.openPopup());
