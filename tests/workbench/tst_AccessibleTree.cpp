@@ -42,12 +42,12 @@ struct Reference
     QDBusObjectPath path;
 };
 
-// NOLINTNEXTLINE(bugprone-return-const-ref-from-parameter): QDBusArgument is read like this.
 const QDBusArgument &operator>>(const QDBusArgument &argument, Reference &reference)
 {
     argument.beginStructure();
     argument >> reference.service >> reference.path;
     argument.endStructure();
+    // NOLINTNEXTLINE(bugprone-return-const-ref-from-parameter): QDBusArgument is read like this.
     return argument;
 }
 
