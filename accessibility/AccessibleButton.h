@@ -14,7 +14,7 @@ namespace Norvane {
 /*!
     A button as assistive tools see it: named by its text in one line, or by its property "label" if
     it has none, with the shortcut of its action, its menu and its state. A page tab is selected
-   where another button is checked.
+    where another button is checked.
 */
 class AccessibleButton : public QAccessibleWidget
 {

@@ -9,8 +9,8 @@ namespace Norvane {
 
 /*!
     The marker. Its name is found by its accessible interface: to set an accessible name makes such
-   an interface at once, which takes longer than to make the marker, and hardly one is ever asked
-   for.
+    an interface at once, which takes longer than to make the marker, and hardly one is ever asked
+    for.
 */
 class RibbonGalleryMarker : public LazyToolButton
 {
