@@ -5,6 +5,8 @@
 
 #include <QtCore/QtGlobal>
 
+#include <condition_variable>
+#include <mutex>
 #include <utility>
 
 #include <dirent.h>
@@ -15,6 +17,19 @@
 namespace {
 
 thread_local Calls::Counts counts;
+thread_local int entriesRead = 0;
+thread_local bool holder = false;
+
+std::mutex mutex;
+std::condition_variable released;
+int allowed = -1;
+
+void waitForRelease()
+{
+    std::unique_lock lock(mutex);
+    released.wait(lock, [] { return allowed < 0 || entriesRead < allowed; });
+    ++entriesRead;
+}
 
 template<typename Function>
 Function next(const char *name)
@@ -29,13 +44,38 @@ Calls::Counts Calls::take()
     return std::exchange(counts, {});
 }
 
+void Calls::holdReaders(int entries)
+{
+    const std::lock_guard lock(mutex);
+    holder = true;
+    allowed = entries;
+}
+
+void Calls::releaseReaders()
+{
+    {
+        const std::lock_guard lock(mutex);
+        allowed = -1;
+    }
+    released.notify_all();
+}
+
 extern "C" {
 
 Q_DECL_EXPORT DIR *opendir(const char *path)
 {
     static const auto function = next<DIR *(*)(const char *)>("opendir");
     ++counts.opendirs;
+    entriesRead = 0;
     return function(path);
+}
+
+Q_DECL_EXPORT struct dirent64 *readdir64(DIR *folder)
+{
+    static const auto function = next<struct dirent64 *(*)(DIR *)>("readdir64");
+    if (!holder)
+        waitForRelease();
+    return function(folder);
 }
 
 Q_DECL_EXPORT int stat64(const char *path, struct stat64 *result) noexcept

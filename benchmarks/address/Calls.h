@@ -16,4 +16,8 @@ struct Counts
 // What this thread asked since the last call.
 Counts take();
 
+// Until released, other threads wait when they have read that many entries of a folder.
+void holdReaders(int entries);
+void releaseReaders();
+
 } // namespace Calls

@@ -118,6 +118,9 @@ private:
     QTreeView *m_view;
 };
 
+// Qt's thread sends the first hundred rows, with the two that no view shows, and then the others.
+constexpr int firstEntries = 102;
+
 // Loads a folder until all rows are there, with what a person sees of it meanwhile.
 void measureLoad(const QString &side, const QString &folder, int count, Recorder *recorder)
 {
@@ -141,6 +144,9 @@ void measureLoad(const QString &side, const QString &folder, int count, Recorder
     settle();
     recorder->memory(QStringLiteral("before"));
     RowWitness witness(view);
+    // Whether the others come before these are painted would be a matter of chance in a small
+    // folder, and with it how much of the work is done at a stretch.
+    Calls::holdReaders(firstEntries);
     const int start = processorMicroseconds();
     timer.start();
     if (side == QStringLiteral("bar"))
@@ -153,8 +159,11 @@ void measureLoad(const QString &side, const QString &folder, int count, Recorder
         QElapsedTimer turn;
         turn.start();
         // What waits for something to happen is no stall.
-        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+            if (witness.seen)
+                Calls::releaseReaders();
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
+        }
         longest = qMax(longest, microseconds(turn));
         rows = view->model()->rowCount(view->rootIndex());
         if (first == 0 && witness.seen)
