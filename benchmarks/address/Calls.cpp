@@ -5,6 +5,7 @@
 
 #include <QtCore/QtGlobal>
 
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <utility>
@@ -22,7 +23,7 @@ thread_local bool holder = false;
 
 std::mutex mutex;
 std::condition_variable released;
-int allowed = -1;
+std::atomic_int allowed = -1;
 
 void waitForRelease()
 {
@@ -73,7 +74,7 @@ Q_DECL_EXPORT DIR *opendir(const char *path)
 Q_DECL_EXPORT struct dirent64 *readdir64(DIR *folder)
 {
     static const auto function = next<struct dirent64 *(*)(DIR *)>("readdir64");
-    if (!holder)
+    if (!holder && allowed >= 0)
         waitForRelease();
     return function(folder);
 }
