@@ -29,7 +29,10 @@ public:
     explicit AddressEntry(QWidget *parent = nullptr);
     ~AddressEntry() override;
 
-    //! Sets the stored path and reads the folders in it, once. It is called once.
+    /*!
+        Sets the stored path and reads the folders in it, once. It is called once. Links that lead
+       to folders come into the menu when it is opened.
+    */
     void setPath(const QString &path);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

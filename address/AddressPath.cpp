@@ -54,16 +54,30 @@ QString folder(const QString &path)
     return QString(path).replace(u'\\', u'/') + u'/';
 }
 
-QStringList children(const QString &path, Style style)
+Children children(const QString &path, Style style)
 {
+    Children children;
     if (path.isEmpty() && style == Style::DriveLetters) {
-        QStringList names;
         const QFileInfoList drives = QDir::drives();
         for (const QFileInfo &drive : drives)
-            names << driveName(drive.absoluteDir().path());
-        return names;
+            children.names << driveName(drive.absoluteDir().path());
+        return children;
     }
-    QStringList names = AddressFolder::names(folder(path), AddressFolder::Wanted::Folders).folders;
+    const auto names = AddressFolder::names(folder(path), AddressFolder::Wanted::Folders);
+    children = {names.folders, names.undecided};
+    while (children.names.isEmpty() && !children.undecided.isEmpty())
+        children.names = decided(path, {children.undecided.takeLast()});
+    children.names.sort();
+    return children;
+}
+
+QStringList decided(const QString &path, const QStringList &undecided)
+{
+    QStringList names;
+    for (const QString &name : undecided) {
+        if (QFileInfo(folder(path) + name).isDir())
+            names << name;
+    }
     names.sort();
     return names;
 }
