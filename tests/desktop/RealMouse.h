@@ -7,6 +7,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtGui/QCursor>
+#include <QtGui/QDragMoveEvent>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QMenu>
@@ -55,27 +56,68 @@ inline void drag(QPoint by)
 }
 
 /*!
-    Drags from one point to another and comes back at once: while something is dragged, Qt comes
-    back to nobody.
+    Drags from one point to another while the test waits, because Qt comes back to nobody while
+    something is dragged. Lets go once the widget below the end, which is in this program, has been
+    told that something is dragged over it: who lets go earlier drops nothing.
 */
-inline bool startDrag(QPoint from, QPoint to)
+class Drag : public QObject
 {
-    // As slow as a hand, or windows are passed without being entered.
-    const QStringList pause{QStringLiteral("sleep"), QStringLiteral("0.05")};
-    QStringList arguments;
-    const auto moveTo = [&](QPoint point) {
-        arguments << QStringLiteral("mousemove") << QString::number(point.x())
-                  << QString::number(point.y()) << pause;
-    };
-    moveTo(from);
-    arguments << QStringLiteral("mousedown") << QStringLiteral("1") << pause;
-    for (int step = 1; step <= 8; ++step)
-        moveTo(from + (to - from) * step / 8);
-    // Who lets go before the window below could answer drops nothing.
-    arguments << QStringLiteral("sleep") << QStringLiteral("0.5");
-    arguments << QStringLiteral("mouseup") << QStringLiteral("1");
-    return QProcess::startDetached(QStringLiteral("xdotool"), arguments);
-}
+public:
+    Drag(QPoint from, QPoint to)
+        : m_from(from)
+        , m_to(to)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+        QObject::connect(&m_timer, &QTimer::timeout, this, &Drag::step);
+        moveTo(from);
+        xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
+        m_timer.start(20);
+    }
+
+    ~Drag() override
+    {
+        if (m_timer.isActive())
+            letGo();
+    }
+    Q_DISABLE_COPY_MOVE(Drag)
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *widget = qobject_cast<QWidget *>(watched);
+        if (widget && event->type() == QEvent::DragMove) {
+            const QPoint at = static_cast<QDragMoveEvent *>(event)->position().toPoint();
+            m_arrived = (widget->mapToGlobal(at) - m_to).manhattanLength() <= 1;
+        }
+        return false;
+    }
+
+private:
+    void step()
+    {
+        if (m_arrived)
+            return letGo();
+        ++m_step;
+        // A hand is never still, and a view needs more than one movement to begin.
+        const QPoint at = m_step <= Steps ? m_from + (m_to - m_from) * m_step / Steps
+                                          : m_to + QPoint(m_step % 2, 0);
+        xdotool({QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y())});
+    }
+
+    void letGo()
+    {
+        m_timer.stop();
+        xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+    }
+
+    static constexpr int Steps = 8;
+
+    const QPoint m_from;
+    const QPoint m_to;
+    QTimer m_timer;
+    int m_step = 0;
+    bool m_arrived = false;
+};
 
 inline void key(const QString &name)
 {

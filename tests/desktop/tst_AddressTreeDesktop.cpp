@@ -8,7 +8,6 @@
 #include <tests/address/Files.h>
 
 #include <QtCore/QProcess>
-#include <QtCore/QSet>
 #include <QtCore/QTimer>
 #include <QtGui/QFileSystemModel>
 #include <QtWidgets/QApplication>
@@ -57,19 +56,24 @@ public:
             && settle();
     }
 
-    //! Waits until it shows what is in the folder.
+    //! Waits until it shows what is in the folder, in its final order.
     bool settle()
     {
         return QTest::qWaitFor([this] {
+            // Folders come first only when the model knows what each entry is.
             const QStringList names =
-                QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-            QSet<int> tops;
-            for (const QString &name : names)
-                tops << rect(name).top();
-            // Not before each is at a place of its own.
-            if (tops.size() != names.size())
+                QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot,
+                                         QDir::DirsFirst | QDir::Name | QDir::IgnoreCase);
+            if (files()->rowCount(rootIndex()) != names.size())
                 return false;
-            return files()->rowCount(rootIndex()) == names.size();
+            int bottom = -1;
+            for (qsizetype row = 0; row < names.size(); ++row) {
+                const QRect place = rect(names.at(row));
+                if (place.top() <= bottom)
+                    return false;
+                bottom = place.bottom();
+            }
+            return true;
         });
     }
 
@@ -211,11 +215,11 @@ void tst_AddressTreeDesktop::asksInTheMiddleOfADrag()
         start = source.place(u"f"_s);
     QVERIFY(!start.isNull());
     const Clicks clicks({button});
-    QVERIFY(RealMouse::startDrag(start, target.emptyPlace()));
+    const RealMouse::Drag drag(start, target.emptyPlace());
     QTRY_COMPARE(clicks.boxes(), 1);
     QTRY_VERIFY(!QApplication::activeModalWidget());
     QTRY_COMPARE(files.entries(), left);
-    QVERIFY(!QApplication::mouseButtons());
+    QTRY_VERIFY(!QApplication::mouseButtons());
 
     // The mouse belongs to the windows again.
     QVERIFY(target.settle());
@@ -229,7 +233,7 @@ void tst_AddressTreeDesktop::asksInTheMiddleOfADrag()
     RealMouse::click();
     QTRY_COMPARE(source.selectedPaths(), QStringList{files.path(u"from/g"_s)});
     // Not where it was clicked, which would be a double click.
-    QVERIFY(RealMouse::startDrag(source.place(u"g"_s) + QPoint(40, 0), target.emptyPlace()));
+    const RealMouse::Drag again(source.place(u"g"_s) + QPoint(40, 0), target.emptyPlace());
     QTRY_VERIFY(QFileInfo::exists(files.path(u"to/g"_s)));
     QTRY_VERIFY(!QFileInfo::exists(files.path(u"from/g"_s)));
     QTRY_VERIFY(!QApplication::mouseButtons());
@@ -244,7 +248,7 @@ void tst_AddressTreeDesktop::asksOftenInTheMiddleOfADrag()
     QVERIFY(source.open() && target.open());
     source.selectAll();
     const Clicks clicks({u"Replace Current"_s, u"OK"_s, u"Save a Copy"_s});
-    QVERIFY(RealMouse::startDrag(source.place(u"f"_s), target.emptyPlace()));
+    const RealMouse::Drag drag(source.place(u"f"_s), target.emptyPlace());
     QTRY_COMPARE(clicks.boxes(), 3);
     QTRY_COMPARE(files.entries(),
                  QStringList({u"from/"_s, u"from/e=new"_s, u"to/"_s, u"to/Copy_2_of_f=new"_s,
@@ -260,7 +264,7 @@ void tst_AddressTreeDesktop::dropsIntoAFolderOfItsOwn()
     QVERIFY(tree.open());
     const Clicks clicks({u"Replace Current"_s});
     // The rows are closer than a drag takes to begin.
-    QVERIFY(RealMouse::startDrag(tree.place(u"f"_s), tree.place(u"d"_s) + QPoint(60, 0)));
+    const RealMouse::Drag drag(tree.place(u"f"_s), tree.place(u"d"_s) + QPoint(60, 0));
     QTRY_COMPARE(clicks.boxes(), 1);
     QTRY_COMPARE(files.entries(), QStringList({u"d/"_s, u"d/f=new"_s}));
     QVERIFY(tree.settle());
@@ -276,7 +280,7 @@ void tst_AddressTreeDesktop::isDeletedInTheMiddleOfADrag()
     const QPointer<Tree> target = new Tree(files.path(u"to"_s), 1);
     QVERIFY(source.open() && target->open());
     const Clicks clicks({u"Replace Current"_s}, [&] { delete target.data(); });
-    QVERIFY(RealMouse::startDrag(source.place(u"f"_s), target->emptyPlace()));
+    const RealMouse::Drag drag(source.place(u"f"_s), target->emptyPlace());
     QTRY_COMPARE(clicks.boxes(), 1);
     QTRY_COMPARE(files.entries(), QStringList({u"from/"_s, u"to/"_s, u"to/f=new"_s}));
     QVERIFY(!target);
