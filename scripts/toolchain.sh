@@ -24,7 +24,6 @@ pkg-config command pkg-config
 END
         desktop) cat <<'END' ;;
 xvfb command Xvfb
-xauth command xauth
 openbox command openbox
 xdotool command xdotool
 imagemagick command import

@@ -24,7 +24,7 @@ BASICS = ["awk", "basename", "bash", "cat", "chmod", "cut", "dirname", "env", "f
           "grep", "head", "ls", "mkdir", "mv", "nproc", "paste", "readlink", "realpath", "rm", "setsid",
           "sha256sum", "sleep", "sort", "sync", "tar", "touch", "true", "uname"]
 
-TOOLS = ["c++", "git", "ninja", "pkg-config", "python3", "Xvfb", "xauth", "openbox", "xdotool",
+TOOLS = ["c++", "git", "ninja", "pkg-config", "python3", "Xvfb", "openbox", "xdotool",
          "import", "xprop", "dbus-run-session", "fc-list", "valgrind", "ctest"]
 
 PACKAGING = ["dh", "dpkg-buildpackage", "lintian"]
