@@ -10,6 +10,7 @@
 #include <Norvane/RibbonBar.h>
 
 #include <QtCore/QMimeData>
+#include <QtGui/QAbstractFileIconProvider>
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QFileSystemModel>
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void keepsItsKeysToItself();
     void selectsAllFiles();
     void tellsKindsOfFilesApart();
+    void leavesItsIconsToTheTree();
     void doesNotLookIntoFiles();
 };
 
@@ -435,6 +437,19 @@ void tst_FilesView::tellsKindsOfFilesApart()
     QTRY_VERIFY(picture(u"c.xyz"_s) != picture(u"a.txt"_s));
     QVERIFY(picture(u"c.xyz"_s) != picture(u"d.png"_s));
     QVERIFY(picture(u"e"_s) != picture(u"c.xyz"_s));
+}
+
+void tst_FilesView::leavesItsIconsToTheTree()
+{
+    const Files files;
+    files.write(u"a.txt"_s, "text");
+    const FilesWindow window(files);
+    QTRY_COMPARE(window.rows().size(), 1);
+    delete window.findChild<FilesView *>();
+    const QModelIndex index = window.model->index(files.path(u"a.txt"_s));
+    const auto picture = [](const QIcon &icon) { return icon.pixmap(16).toImage(); };
+    QTRY_COMPARE(picture(window.model->iconProvider()->icon(QFileInfo(files.path(u"a.txt"_s)))),
+                 picture(index.data(Qt::DecorationRole).value<QIcon>()));
 }
 
 void tst_FilesView::doesNotLookIntoFiles()

@@ -12,8 +12,9 @@
 
 namespace Workbench {
 
-FileIcons::FileIcons()
-    : m_folder(Workbench::icon(QLatin1StringView("folder")))
+FileIcons::FileIcons(QObject *parent)
+    : QObject(parent)
+    , m_folder(Workbench::icon(QLatin1StringView("folder")))
     , m_other(Workbench::icon(QLatin1StringView("other-file")))
 {
     const QIcon text = Workbench::icon(QLatin1StringView("text-file"));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QtCore/QHash>
+#include <QtCore/QObject>
 #include <QtGui/QAbstractFileIconProvider>
 #include <QtGui/QIcon>
 
@@ -12,11 +13,13 @@ namespace Workbench {
 /*!
     The tree's icons, which not every desktop has, and the names of types. Both come from the names
     of files alone: to look into thousands of files would keep the window from being used.
+
+    The model that uses them is their parent, as it uses them until its end.
 */
-class FileIcons : public QAbstractFileIconProvider
+class FileIcons : public QObject, public QAbstractFileIconProvider
 {
 public:
-    FileIcons();
+    explicit FileIcons(QObject *parent);
 
     QIcon icon(IconType type) const override;
     QIcon icon(const QFileInfo &info) const override;

@@ -5,6 +5,7 @@
 
 #include "Icons.h"
 #include "files/FileCommands.h"
+#include "views/FileIcons.h"
 
 #include <Norvane/AddressBar.h>
 
@@ -33,7 +34,7 @@ FilesView::FilesView(AddressBar *bar, FileCommands *files)
         m_bar->addSuffix(suffix);
         m_bar->addSuffix(suffix.toUpper());
     }
-    m_model->setIconProvider(&m_icons);
+    m_model->setIconProvider(new FileIcons(m_model));
     // Otherwise every row above the one that is shown would be measured first.
     m_tree->setUniformRowHeights(true);
     auto *text = new QAction(icon("text-file"_L1), tr("Text Document"), this);

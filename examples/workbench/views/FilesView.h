@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "views/FileIcons.h"
-
 #include <QtCore/QObject>
 
 class QFileSystemModel;
@@ -42,7 +40,6 @@ private:
     FileCommands *m_files;
     QTreeView *m_tree;
     QFileSystemModel *m_model;
-    FileIcons m_icons;
 };
 
 } // namespace Workbench
