@@ -42,9 +42,10 @@ bool isSame(const QFileInfo &one, const QFileInfo &other)
     return !other.isSymLink() && one.canonicalFilePath() == other.canonicalFilePath();
 }
 
+// Both without links. A folder that is gone has no such path, and nothing in it.
 bool isInside(const QString &path, const QString &folder)
 {
-    return path == folder || path.startsWith(folder + u'/');
+    return !folder.isEmpty() && (path == folder || path.startsWith(folder + u'/'));
 }
 
 bool isRefused(AddressFileOperations::CopyCheck code)

@@ -3,11 +3,16 @@
 
 #include "Fault.h"
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 
 #include <array>
 #include <cerrno>
+#include <condition_variable>
 #include <cstdarg>
+#include <mutex>
+#include <thread>
+#include <utility>
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -23,14 +28,26 @@ struct Plan
     int first = 0;
     int last = 0;
     int error = 0;
+    int delayed = 0;
+    std::function<void()> meanwhile;
 };
 
 thread_local std::array<Plan, Fault::CallCount> plans;
 
+std::mutex mutex;
+std::condition_variable released;
+QString heldFolder;
+std::thread::id holder;
+bool reached = false;
+
 bool fails(Fault::Call call)
 {
     Plan &plan = plans.at(call);
-    ++plan.calls;
+    if (++plan.calls == plan.delayed) {
+        auto interrupted = std::exchange(plans, {});
+        interrupted.at(call).meanwhile();
+        plans = std::move(interrupted);
+    }
     if (plan.calls < plan.first || plan.calls > plan.last)
         return false;
     errno = plan.error;
@@ -50,12 +67,25 @@ int openNext(const char *name, const char *path, int flags, mode_t mode)
     return next<int (*)(const char *, int, mode_t)>(name)(path, flags, mode);
 }
 
+void waitForRelease(const char *path)
+{
+    std::unique_lock lock(mutex);
+    const auto isHeld = [path] {
+        return !heldFolder.isEmpty() && holder != std::this_thread::get_id()
+            && QDir::cleanPath(QFile::decodeName(path)) == heldFolder;
+    };
+    if (!isHeld())
+        return;
+    reached = true;
+    released.wait(lock, [&] { return !isHeld(); });
+}
+
 } // namespace
 
 Fault::Fault(Call call, int first, int last, int error)
     : m_call(call)
 {
-    plans.at(call) = {0, first, last, error};
+    plans.at(call) = {0, first, last, error, 0, {}};
 }
 
 Fault::~Fault()
@@ -66,6 +96,54 @@ Fault::~Fault()
 int Fault::calls() const
 {
     return plans.at(m_call).calls;
+}
+
+Delay::Delay(Fault::Call call, int number, const std::function<void()> &meanwhile)
+    : m_call(call)
+    , m_number(number)
+{
+    Plan &plan = plans.at(call);
+    plan.calls = 0;
+    plan.delayed = number;
+    plan.meanwhile = meanwhile;
+}
+
+Delay::~Delay()
+{
+    plans.at(m_call).delayed = 0;
+}
+
+bool Delay::isOver() const
+{
+    return plans.at(m_call).calls >= m_number;
+}
+
+Hold::Hold(const QString &folder)
+{
+    const std::lock_guard lock(mutex);
+    heldFolder = folder;
+    holder = std::this_thread::get_id();
+    reached = false;
+}
+
+Hold::~Hold()
+{
+    release();
+}
+
+bool Hold::isReached() const
+{
+    const std::lock_guard lock(mutex);
+    return reached;
+}
+
+void Hold::release()
+{
+    {
+        const std::lock_guard lock(mutex);
+        heldFolder.clear();
+    }
+    released.notify_all();
 }
 
 extern "C" {
@@ -90,6 +168,7 @@ Q_DECL_EXPORT int open64(const char *path, int flags, ...)
 
 Q_DECL_EXPORT DIR *opendir(const char *path)
 {
+    waitForRelease(path);
     if (fails(Fault::OpenFolder))
         return nullptr;
     return next<DIR *(*)(const char *)>("opendir")(path);

@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include <QtCore/QString>
+
+#include <functional>
+
 /*!
     Lets calls to the system fail, as long as it lives. The functions of the same names in the
     test program stand before those of the C library, for Qt too.
@@ -24,4 +28,38 @@ public:
 
 private:
     const Call m_call;
+};
+
+/*!
+    Delays one call to the system, as a disk does that was asleep: before it is made, somebody else
+    does \a meanwhile, whose own calls do not count.
+*/
+class Delay
+{
+public:
+    //! Delays the call with this \a number among these calls on this thread, counted from 1.
+    Delay(Fault::Call call, int number, const std::function<void()> &meanwhile);
+    ~Delay();
+    Delay(const Delay &) = delete;
+    Delay &operator=(const Delay &) = delete;
+
+    bool isOver() const;
+
+private:
+    const Fault::Call m_call;
+    const int m_number;
+};
+
+//! Lets other threads wait before they list a folder, until it is released.
+class Hold
+{
+public:
+    explicit Hold(const QString &folder);
+    ~Hold();
+    Hold(const Hold &) = delete;
+    Hold &operator=(const Hold &) = delete;
+
+    //! Whether a thread has come to it.
+    bool isReached() const;
+    void release();
 };

@@ -17,6 +17,7 @@
 #include <QtGui/QClipboard>
 
 #include <cerrno>
+#include <functional>
 
 #include <fcntl.h>
 #include <sys/mount.h>
@@ -99,6 +100,11 @@ private Q_SLOTS:
 
     void survivesFaults_data();
     void survivesFaults();
+    void survivesDelays_data();
+    void survivesDelays();
+    void replacesNothingThatCameMeanwhile_data();
+    void replacesNothingThatCameMeanwhile();
+    void removesNoTargetOfALinkThatCameMeanwhile();
     void saysThatItCannotReplace();
     void survivesAFullDisk();
 };
@@ -1154,6 +1160,108 @@ void tst_AddressFileOperations::survivesFaults()
     }
     QCOMPARE(files.entries(u"to"_s), expected);
     QCOMPARE(answers.texts(), QStringList());
+}
+
+using Change = std::function<bool(const Files &)>;
+
+void tst_AddressFileOperations::survivesDelays_data()
+{
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<Change>("meanwhile");
+    QTest::addColumn<QStringList>("copied");
+    QTest::addColumn<int>("errors");
+    const auto remove = [](const QString &name) -> Change {
+        return [name](const Files &files) { return QDir(files.path(name)).removeRecursively(); };
+    };
+    const auto add = [](const char *name, Fault::Call call, int number, const Change &meanwhile,
+                        const QStringList &copied, int errors) {
+        QTest::newRow(name) << int(call) << number << meanwhile << copied << errors;
+    };
+    const QString d = u"d/"_s;
+    const QString e = u"d/e/"_s;
+    add("source goes before it is listed", Fault::OpenFolder, 1, remove(u"d"_s), {d}, 0);
+    add("source goes before a file is read", Fault::OpenToRead, 1, remove(u"d"_s), {d}, 1);
+    add("source goes while a file is read", Fault::OpenToWrite, 1, remove(u"d"_s), {d, u"d/a=1"_s},
+        1);
+    add("source goes before a file is named", Fault::Name, 1, remove(u"d"_s), {d, u"d/a=1"_s}, 1);
+    add("folder goes before it is listed", Fault::OpenFolder, 2, remove(u"d/e"_s),
+        {d, u"d/a=1"_s, u"d/b=2"_s, e}, 0);
+    add("folder goes before a file is read", Fault::OpenToRead, 3, remove(u"d/e"_s),
+        {d, u"d/a=1"_s, u"d/b=2"_s, e}, 0);
+    const QStringList rest{d, e, u"d/e/c=3"_s};
+    add("target goes before a file is read", Fault::OpenToRead, 1, remove(u"to/d"_s), rest, 0);
+    add("target goes before a file is made", Fault::OpenToWrite, 1, remove(u"to/d"_s), rest, 0);
+    add("target goes before a file is named", Fault::Name, 1, remove(u"to/d"_s), rest, 0);
+    add("everything goes", Fault::OpenToRead, 2, remove({}), {}, 1);
+}
+
+// A person's other program does not wait for a disk that is slow.
+void tst_AddressFileOperations::survivesDelays()
+{
+    QFETCH(int, call);
+    QFETCH(int, number);
+    QFETCH(Change, meanwhile);
+    QFETCH(QStringList, copied);
+    QFETCH(int, errors);
+    for (const bool cut : {false, true}) {
+        const Files files({u"d/e"_s, u"d/a=1"_s, u"d/b=2"_s, u"d/e/c=3"_s, u"to"_s});
+        const Answers answers;
+        bool done = false;
+        {
+            const Delay delay(Fault::Call(call), number, [&] { done = meanwhile(files); });
+            paste({files.path(u"d"_s)}, files.path(u"to"_s), cut);
+        }
+        QVERIFY(done);
+        QStringList made = files.entries(u"to"_s);
+        made.sort();
+        copied.sort();
+        QCOMPARE(made, copied);
+        QCOMPARE(answers.texts(), QStringList(errors, u"Source file does not exist"_s));
+        QCOMPARE(clipboardIsEmpty(), cut);
+    }
+}
+
+void tst_AddressFileOperations::replacesNothingThatCameMeanwhile_data()
+{
+    QTest::addColumn<int>("call");
+    QTest::newRow("before it is read") << int(Fault::OpenToRead);
+    QTest::newRow("before it is made") << int(Fault::OpenToWrite);
+    QTest::newRow("before it is named") << int(Fault::Name);
+}
+
+void tst_AddressFileOperations::replacesNothingThatCameMeanwhile()
+{
+    QFETCH(int, call);
+    for (const QString &other : {u"to/f=other"_s, u"to/f/g=other"_s}) {
+        const Files files({u"f=new"_s, u"to"_s});
+        const Answers answers;
+        {
+            const Delay delay(Fault::Call(call), 1, [&] {
+                if (other.contains(u"/g"_s))
+                    files.make({u"to/f"_s});
+                files.make({other});
+            });
+            paste({files.path(u"f"_s)}, files.path(u"to"_s));
+            QVERIFY(delay.isOver());
+        }
+        QVERIFY(files.entries().contains(other));
+        QVERIFY(files.entries().contains(u"f=new"_s));
+        QCOMPARE(answers.texts(), QStringList());
+    }
+}
+
+void tst_AddressFileOperations::removesNoTargetOfALinkThatCameMeanwhile()
+{
+    const Files files({u"d"_s, u"d/f=1"_s, u"kept"_s, u"kept/g=2"_s});
+    const Fault fault(Fault::Name, 1, 1, EXDEV);
+    const Delay delay(Fault::Name, 1, [&] {
+        QDir(files.path(u"d"_s)).removeRecursively();
+        files.make({u"d->"_s + files.path(u"kept"_s)});
+    });
+    AddressFileOperations().remove(files.path(u"d"_s));
+    QVERIFY(delay.isOver());
+    QCOMPARE(files.entries(), QStringList({u"kept/"_s, u"kept/g=2"_s}));
 }
 
 void tst_AddressFileOperations::saysThatItCannotReplace()

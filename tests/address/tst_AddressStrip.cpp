@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Crumbs.h"
+#include "Fault.h"
 #include "Folders.h"
 #include "History.h"
 #include "Modal.h"
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void followsAClickedCrumb();
     void followsAPickedFolder();
     void showsFoldersThatAreGone();
+    void showsFoldersThatGoWhileTheyAreListed();
     void showsFoldersThatMayNotBeRead();
     void showsAPathOfTenThousandCharacters();
 
@@ -573,6 +575,36 @@ void tst_AddressStrip::showsFoldersThatAreGone()
     window.strip->goBackward();
     QCOMPARE(window.strip->path(), folders.path(QStringLiteral("a/b")));
     QVERIFY(showsCrumbs(window.strip));
+}
+
+void tst_AddressStrip::showsFoldersThatGoWhileTheyAreListed()
+{
+    const QStringList names{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const Folders folders({QStringLiteral("a/b/c/d")});
+        Window window;
+        QVERIFY(window.open());
+        Log log(window.strip);
+        // Before it come the root and the temporary folder's own crumbs.
+        const auto number = folders.path().count(u'/') + 2 + i;
+        bool removed = false;
+        {
+            const Delay delay(Fault::OpenFolder, int(number),
+                              [&] { removed = folders.remove(QStringLiteral("a")); });
+            window.strip->setPath(folders.path(QStringLiteral("a/b/c")));
+        }
+        QVERIFY(removed);
+        QCOMPARE(window.strip->path(), folders.path(QStringLiteral("a/b/c")));
+        QCOMPARE(crumbsOf(window.strip).last(3), names);
+        // The crumbs before the one that was slow know what they had.
+        const QList<AddressEntry *> entries = entriesOf(window.strip).last(3);
+        for (qsizetype k = 0; k < entries.size(); ++k)
+            QCOMPARE(entries.at(k)->menu() != nullptr, k < i);
+        QCOMPARE(log.take().filter(QStringLiteral("/")), QStringList{window.strip->path()});
+        QVERIFY(waitForCrumbs(window.strip));
+        window.click(entries.constFirst(), QPoint(4, 11));
+        QCOMPARE(window.strip->path(), folders.path(QStringLiteral("a")));
+    }
 }
 
 void tst_AddressStrip::showsFoldersThatMayNotBeRead()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Answers.h"
+#include "Fault.h"
 #include "Files.h"
 #include "Gui.h"
 #include "OpenedUrls.h"
@@ -102,6 +103,10 @@ private Q_SLOTS:
     void ignoresADropOfText();
     void isDeletedWhileItAsks_data();
     void isDeletedWhileItAsks();
+    void isDeletedWhileItLists();
+    void leavesAFolderBeforeItIsListed();
+    void actsOnAFolderBeforeItIsListed();
+    void renamesNothingThatIsGoneMeanwhile();
     void followsChangesOnTheDisk();
 };
 
@@ -1472,6 +1477,97 @@ void tst_AddressTree::isDeletedWhileItAsks()
     QCOMPARE(answers.boxes().size(), 2);
     QCOMPARE(files.entries(),
              QStringList({u"from/"_s, u"shown/"_s, u"shown/f=new"_s, u"shown/g=new"_s}));
+}
+
+void tst_AddressTree::isDeletedWhileItLists()
+{
+    const Files files({u"slow"_s, u"slow/f=1"_s});
+    auto tree = std::make_unique<Tree>(files);
+    QVERIFY(tree->open());
+    Hold hold(files.path(u"slow"_s));
+    tree->slotPathChanged(files.path(u"slow"_s));
+    QTRY_VERIFY(hold.isReached());
+    // The model, which goes after this, waits for its thread.
+    connect(tree.get(), &QObject::destroyed, this, [&hold] { hold.release(); });
+    tree.reset();
+    QCOMPARE(files.entries(u"slow"_s), QStringList{u"f=1"_s});
+}
+
+void tst_AddressTree::leavesAFolderBeforeItIsListed()
+{
+    const Files files({u"slow"_s, u"slow/f=1"_s, u"slow/g=1"_s, u"other"_s, u"other/h=1"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    Hold hold(files.path(u"slow"_s));
+    const QSignalSpy loads(tree.files(), &QFileSystemModel::directoryLoaded);
+    tree.slotPathChanged(files.path(u"slow"_s));
+    QTRY_VERIFY(hold.isReached());
+    tree.slotPathChanged(files.path(u"other"_s));
+    QCOMPARE(tree.targetPath(), files.path(u"other"_s));
+    QCOMPARE(tree.selectedPaths(), QStringList());
+    QCOMPARE(loads.size(), 0);
+    hold.release();
+    QTRY_VERIFY(loads.contains(QVariantList{files.path(u"slow"_s)}));
+    QVERIFY(tree.load());
+    QCOMPARE(tree.targetPath(), files.path(u"other"_s));
+    QCOMPARE(tree.selectedPaths(), QStringList());
+    QVERIFY(tree.visualRect(tree.index(u"other/h"_s)).isValid());
+    QVERIFY(!tree.visualRect(tree.index(u"slow/f"_s)).isValid());
+    tree.slotPathChanged(files.path(u"slow"_s));
+    QVERIFY(tree.load());
+    QTRY_VERIFY(tree.visualRect(tree.index(u"slow/f"_s)).isValid());
+}
+
+void tst_AddressTree::actsOnAFolderBeforeItIsListed()
+{
+    const Files files({u"slow"_s, u"slow/f=1"_s, u"slow/g=1"_s, u"h=1"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    Hold hold(files.path(u"slow"_s));
+    tree.slotPathChanged(files.path(u"slow"_s));
+    QTRY_VERIFY(hold.isReached());
+    tree.key(Qt::Key_Delete);
+    tree.key(Qt::Key_F2);
+    QVERIFY(!tree.editor());
+    toClipboard({files.path(u"h"_s)});
+    tree.key(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(menuAt(&tree, tree.emptyPosition(), {u"New"_s, u"Folder"_s}).constFirst(), u"Paste"_s);
+    QCOMPARE(files.entries(u"slow"_s),
+             QStringList({u"New Folder/"_s, u"f=1"_s, u"g=1"_s, u"h=1"_s}));
+    QTRY_VERIFY(tree.editor());
+    QTest::keyClicks(tree.editor(), u"my"_s);
+    // The rows come and find their order under the editor.
+    hold.release();
+    QTRY_COMPARE(tree.files()->rowCount(tree.rootIndex()), 4);
+    QTRY_VERIFY(tree.visualRect(tree.index(u"slow/f"_s)).isValid());
+    QVERIFY(tree.editor());
+    QTest::keyClicks(tree.editor(), u" own"_s);
+    QTest::keyClick(tree.editor(), Qt::Key_Return);
+    QTRY_COMPARE(files.entries(u"slow"_s),
+                 QStringList({u"f=1"_s, u"g=1"_s, u"h=1"_s, u"my own/"_s}));
+    QTRY_COMPARE(tree.targetPath(), files.path(u"slow/my own"_s));
+    QTRY_VERIFY(!tree.editor());
+}
+
+void tst_AddressTree::renamesNothingThatIsGoneMeanwhile()
+{
+    const Files files({u"f=1"_s, u"g=2"_s});
+    Tree tree(files);
+    QVERIFY(tree.open());
+    tree.click(u"f"_s);
+    tree.key(Qt::Key_F2);
+    QVERIFY(tree.editor());
+    tree.editor()->setText(u"new"_s);
+    {
+        const Delay delay(Fault::Name, 1, [&] { QFile::remove(files.path(u"f"_s)); });
+        QTest::keyClick(tree.editor(), Qt::Key_Return);
+        QTRY_VERIFY(delay.isOver());
+    }
+    QTRY_VERIFY(!tree.editor());
+    QCOMPARE(files.entries(), QStringList{u"g=2"_s});
+    QTRY_COMPARE(tree.files()->rowCount(tree.rootIndex()), 1);
+    QVERIFY(!tree.index(u"new"_s).isValid());
+    QVERIFY(!tree.selected().contains(u"f"_s));
 }
 
 void tst_AddressTree::followsChangesOnTheDisk()
