@@ -15,8 +15,6 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
-#include <functional>
-
 namespace Norvane {
 
 namespace {
@@ -24,21 +22,21 @@ namespace {
 class DirectionFilter : public QObject
 {
 public:
-    DirectionFilter(std::function<void()> changed, QObject *parent)
+    DirectionFilter(AddressBarPrivate *bar, QObject *parent)
         : QObject(parent)
-        , m_changed(std::move(changed))
+        , m_bar(bar)
     {
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::LayoutDirectionChange)
-            m_changed();
+            m_bar->turnArrows();
         return QObject::eventFilter(watched, event);
     }
 
 private:
-    std::function<void()> m_changed;
+    AddressBarPrivate *const m_bar;
 };
 
 } // namespace
@@ -65,7 +63,7 @@ void AddressBarPrivate::init()
     backwardButton = addButton(QStringLiteral(":/res/backward.svg"), AddressBar::tr("Back"));
     forwardButton = addButton(QStringLiteral(":/res/forward.svg"), AddressBar::tr("Forward"));
     arrows = {backwardButton->icon(), forwardButton->icon()};
-    q->installEventFilter(new DirectionFilter([this] { turnArrows(); }, q));
+    q->installEventFilter(new DirectionFilter(this, q));
     turnArrows();
     dirupButton = addButton(QStringLiteral(":/res/dirup.svg"), AddressBar::tr("Up"));
     browseButton = addButton(QStringLiteral(":/res/browse.svg"), AddressBar::tr("Browse"));

@@ -45,6 +45,7 @@ class CrumbMenu : public QMenu
 public:
     using QMenu::QMenu;
 
+    // Before anything else knows the menu: a native one of the system's would have to be told.
     void fill(const QStringList &names, const QIcon &icon)
     {
         m_filling = true;
