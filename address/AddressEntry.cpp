@@ -3,6 +3,7 @@
 
 #include "AddressEntry_p.h"
 
+#include "AddressPath.h"
 #include "IconFile.h"
 
 #include <QtCore/QApplicationStatic>
@@ -13,8 +14,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyle>
-
-#include <algorithm>
 
 namespace Norvane {
 
@@ -64,19 +63,6 @@ public:
         // Once, so that the menu knows that it has to measure its actions.
         QActionEvent changed(QEvent::ActionChanged, next);
         actionEvent(&changed);
-    }
-
-    // These, in order, among those that are there.
-    void add(const QStringList &names, const QIcon &icon)
-    {
-        const QList<QAction *> present = actions();
-        auto next = present.cbegin();
-        for (const QString &name : names) {
-            next = std::lower_bound(
-                next, present.cend(), name,
-                [](const QAction *action, const QString &name) { return action->text() < name; });
-            insertAction(next == present.cend() ? nullptr : *next, new QAction(icon, name, this));
-        }
     }
 
 protected:
@@ -149,22 +135,13 @@ void AddressEntryPrivate::setArrowHovered(bool on)
     q->update();
 }
 
-void AddressEntryPrivate::createMenu(const AddressPath::Children &children, const QIcon &icon)
+void AddressEntryPrivate::createMenu(const QStringList &names, const QIcon &icon)
 {
     Q_Q(AddressEntry);
     auto *menu = new CrumbMenu(q);
     q->setMenu(menu);
-    menu->fill(children.names, icon);
+    menu->fill(names, icon);
     menu->installEventFilter(q);
-    // What links lead to is asked of the file system one by one, and few menus are opened.
-    if (!children.undecided.isEmpty()) {
-        QObject::connect(
-            menu, &QMenu::aboutToShow, q,
-            [this, menu, icon, undecided = children.undecided] {
-                menu->add(AddressPath::decided(path, undecided), icon);
-            },
-            Qt::SingleShotConnection);
-    }
     // Columns would run out of the screen's side. A sheet takes a while, and few menus are opened.
     QObject::connect(
         menu, &QMenu::aboutToShow, q,
@@ -290,13 +267,13 @@ void AddressEntry::setPath(const QString &path)
     d->path = path;
     setAccessibleName(path.isEmpty() ? tr("Root") : path);
     const AddressPath::Style style = AddressPath::nativeStyle();
-    const AddressPath::Children children = AddressPath::children(path, style);
+    const QStringList names = AddressPath::children(path, style);
     if (path.isEmpty()) {
         const bool drives = style == AddressPath::Style::DriveLetters;
-        d->createMenu(children, drives ? d->driveIcon : d->folderIcon);
+        d->createMenu(names, drives ? d->driveIcon : d->folderIcon);
         setPopupMode(QToolButton::InstantPopup);
-    } else if (!children.names.isEmpty()) {
-        d->createMenu(children, d->folderIcon);
+    } else if (!names.isEmpty()) {
+        d->createMenu(names, d->folderIcon);
         setPopupMode(QToolButton::MenuButtonPopup);
     }
 }

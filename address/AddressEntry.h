@@ -29,10 +29,7 @@ public:
     explicit AddressEntry(QWidget *parent = nullptr);
     ~AddressEntry() override;
 
-    /*!
-        Sets the stored path and reads the folders in it, once. It is called once. Links that lead
-       to folders come into the menu when it is opened.
-    */
+    //! Sets the stored path and reads the folders in it, once. It is called once.
     void setPath(const QString &path);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

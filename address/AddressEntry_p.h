@@ -5,8 +5,6 @@
 
 #include "AddressEntry.h"
 
-#include "AddressPath.h"
-
 #include <QtGui/QBrush>
 #include <QtGui/QIcon>
 #include <QtGui/QPen>
@@ -27,7 +25,7 @@ public:
     QRect visual(const QRect &rect) const;
     QSize measure();
     void setArrowHovered(bool on);
-    void createMenu(const AddressPath::Children &children, const QIcon &icon);
+    void createMenu(const QStringList &names, const QIcon &icon);
     void limitMenu() const;
     void placeMenu() const;
 

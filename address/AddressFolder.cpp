@@ -37,10 +37,6 @@ Names read(const QString &folder, Wanted wanted)
         bool isFolder = entry->d_type == DT_DIR;
         bool isFile = entry->d_type == DT_REG;
         if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
-            if (wanted == Wanted::Folders) {
-                names.undecided << name;
-                continue;
-            }
             const QFileInfo info(folder + u'/' + name);
             isFolder = info.isDir();
             isFile = info.isFile();

@@ -18,18 +18,13 @@ struct Names
 {
     QStringList files;
     QStringList folders;
-    QStringList undecided; //!< What may be folders, if only those are wanted.
-    bool complete = true;  //!< False if there are names that no QString can hold.
+    bool complete = true; //!< False if there are names that no QString can hold.
 };
 
 /*!
     The names in \a folder, in no order, without the hidden ones and without those that no QString
     can hold. A link counts as what it leads to; what is neither file nor folder is left out. A
     folder that does not exist or may not be read has none.
-
-    If only folders are wanted, what the folder itself does not tell of is undecided: links, and
-    everything in a file system that keeps no types. To look at it may take as long as a server
-   needs that does not answer.
 */
 Names names(const QString &folder, Wanted wanted);
 

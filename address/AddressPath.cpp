@@ -54,30 +54,16 @@ QString folder(const QString &path)
     return QString(path).replace(u'\\', u'/') + u'/';
 }
 
-Children children(const QString &path, Style style)
+QStringList children(const QString &path, Style style)
 {
-    Children children;
     if (path.isEmpty() && style == Style::DriveLetters) {
+        QStringList names;
         const QFileInfoList drives = QDir::drives();
         for (const QFileInfo &drive : drives)
-            children.names << driveName(drive.absoluteDir().path());
-        return children;
+            names << driveName(drive.absoluteDir().path());
+        return names;
     }
-    const auto names = AddressFolder::names(folder(path), AddressFolder::Wanted::Folders);
-    children = {names.folders, names.undecided};
-    while (children.names.isEmpty() && !children.undecided.isEmpty())
-        children.names = decided(path, {children.undecided.takeLast()});
-    children.names.sort();
-    return children;
-}
-
-QStringList decided(const QString &path, const QStringList &undecided)
-{
-    QStringList names;
-    for (const QString &name : undecided) {
-        if (QFileInfo(folder(path) + name).isDir())
-            names << name;
-    }
+    QStringList names = AddressFolder::names(folder(path), AddressFolder::Wanted::Folders).folders;
     names.sort();
     return names;
 }

@@ -47,23 +47,12 @@ bool isBareDrive(const QString &path, Style style);
 */
 QString folder(const QString &path);
 
-//! What a crumb offers, in the order of names.
-struct Children
-{
-    QStringList names;
-    QStringList undecided; //!< What decided() tells to be folders or not, in no order.
-};
-
 /*!
-    What the crumb of the stored \a path offers: the folders in it without the hidden ones, or for
-    the empty path the drives where there are drives. A folder that does not exist or may not be
-    read offers nothing. There are names if there are any folders at all, decided or not.
+    The names that the crumb of the stored \a path offers, in the order of names: the folders in it
+    without the hidden ones, or for the empty path the drives where there are drives. A folder that
+    does not exist or may not be read offers none.
 */
-Children children(const QString &path, Style style);
-
-//! Those of the \a undecided children of the stored \a path that are folders, in the order of
-//! names.
-QStringList decided(const QString &path, const QStringList &undecided);
+QStringList children(const QString &path, Style style);
 
 //! The path of the child \a name of the stored \a path.
 QString child(const QString &path, const QString &name, Style style);

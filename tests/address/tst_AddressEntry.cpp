@@ -28,7 +28,6 @@ private Q_SLOTS:
     void offersNothingWithoutFolders_data();
     void offersNothingWithoutFolders();
     void offersTheRootsFolders();
-    void linksComeWhenTheMenuOpens();
     void namesWithAnythingInThem_data();
     void namesWithAnythingInThem();
 
@@ -260,47 +259,11 @@ void tst_AddressEntry::offersTheRootsFolders()
     AddressEntry entry;
     entry.setPath(QString());
     QCOMPARE(entry.popupMode(), QToolButton::InstantPopup);
-    Q_EMIT entry.menu()->aboutToShow();
     QCOMPARE(textsOf(entry.menu()),
              QDir(QStringLiteral("/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
     const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
     QCOMPARE(entry.menu()->actions().constFirst()->icon().pixmap(16).toImage(),
              icon.pixmap(16).toImage());
-}
-
-void tst_AddressEntry::linksComeWhenTheMenuOpens()
-{
-    const Folders folders(
-        {QStringLiteral("in/b"), QStringLiteral("in/d"), QStringLiteral("target")});
-    const auto link = [&folders](const QString &target, const QString &name) {
-        return QFile::link(folders.path(target), folders.path(QStringLiteral("in/") + name));
-    };
-    // Not in the order in which they stand.
-    for (const QString &name : {QStringLiteral("e"), QStringLiteral("c"), QStringLiteral("a"),
-                                QStringLiteral("c2"), QStringLiteral("C")})
-        QVERIFY(link(QStringLiteral("target"), name));
-    QVERIFY(link(QStringLiteral("gone"), QStringLiteral("b2")));
-    Window window(QStringLiteral("in"), folders.path(QStringLiteral("in")));
-    QVERIFY(window.open());
-    QMenu *menu = window.entry->menu();
-    const QStringList texts{QStringLiteral("C"), QStringLiteral("a"),  QStringLiteral("b"),
-                            QStringLiteral("c"), QStringLiteral("c2"), QStringLiteral("d"),
-                            QStringLiteral("e")};
-    const QSignalSpy clicks(window.entry, &AddressEntry::signalClicked);
-    for (const QString &name : {QStringLiteral("c"), QStringLiteral("e")}) {
-        QVERIFY(openMenu(&window, [menu, name, texts] {
-            QCOMPARE(textsOf(menu), texts);
-            const QList<QAction *> actions = menu->actions();
-            for (QAction *action : actions) {
-                QVERIFY(menu->rect().contains(menu->actionGeometry(action)));
-                QCOMPARE(action->parent(), menu);
-                QCOMPARE(action->icon().cacheKey(), actions.at(2)->icon().cacheKey());
-            }
-            pick(menu, name);
-        }));
-        QCOMPARE(clicks.constLast(), QVariantList{folders.path(QStringLiteral("in/") + name)});
-    }
-    QCOMPARE(clicks.count(), 2);
 }
 
 void tst_AddressEntry::namesWithAnythingInThem_data()

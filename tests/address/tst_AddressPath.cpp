@@ -43,8 +43,6 @@ private Q_SLOTS:
     void readsTypedText();
 
     void listsFoldersAsQDirDoes();
-    void looksAtLinksIfThereIsNoFolder_data();
-    void looksAtLinksIfThereIsNoFolder();
     void listsWhatComesAfterANameThatCannotBeDecoded();
     void listsWhatOnlyQtFinds();
     void listsNothingWhereNothingCanBeRead();
@@ -56,15 +54,6 @@ namespace {
 
 constexpr Style Drives = Style::DriveLetters;
 constexpr Style Root = Style::SingleRoot;
-
-//! All that a crumb offers.
-QStringList namesOf(const QString &path, Style style)
-{
-    const AddressPath::Children children = AddressPath::children(path, style);
-    QStringList names = children.names + AddressPath::decided(path, children.undecided);
-    names.sort();
-    return names;
-}
 
 QTestData &addRow(const char *name, Style style)
 {
@@ -298,55 +287,9 @@ void tst_AddressPath::listsFoldersAsQDirDoes()
     QVERIFY(link(folder.filePath(QStringLiteral("gone")), QStringLiteral("broken link")));
     QVERIFY(link(folder.filePath(QStringLiteral("loop")), QStringLiteral("loop")));
 
-    const QStringList listed = namesOf(temporary.path(), AddressPath::nativeStyle());
+    const QStringList listed = AddressPath::children(temporary.path(), AddressPath::nativeStyle());
     QCOMPARE(listed.size(), names.size() + 1);
     QCOMPARE(listed, folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
-}
-
-void tst_AddressPath::looksAtLinksIfThereIsNoFolder_data()
-{
-    QTest::addColumn<QStringList>("folders");
-    QTest::addColumn<QStringList>("targets");
-    QTest::addColumn<int>("decided");
-    QTest::addColumn<int>("undecided");
-    const QStringList none;
-    const QStringList nowhere{QStringLiteral("file"), QStringLiteral("gone")};
-    const QStringList folder{QStringLiteral("elsewhere")};
-    QTest::newRow("folders") << QStringList{QStringLiteral("a"), QStringLiteral("b")} << none << 2
-                             << 0;
-    QTest::newRow("a folder and links")
-        << QStringList{QStringLiteral("a")} << nowhere + folder << 1 << 3;
-    QTest::newRow("a link to a folder") << none << folder << 1 << 0;
-    QTest::newRow("links to folders") << none << folder + folder + folder << 1 << 2;
-    QTest::newRow("links to no folder") << none << nowhere << 0 << 0;
-}
-
-void tst_AddressPath::looksAtLinksIfThereIsNoFolder()
-{
-#ifdef Q_OS_LINUX
-    QFETCH(QStringList, folders);
-    QFETCH(QStringList, targets);
-    QFETCH(int, decided);
-    QFETCH(int, undecided);
-    const QTemporaryDir temporary;
-    const QDir folder(temporary.filePath(QStringLiteral("folder")));
-    QVERIFY(QDir(temporary.path()).mkdir(QStringLiteral("folder")));
-    QVERIFY(QDir(temporary.path()).mkdir(QStringLiteral("elsewhere")));
-    QVERIFY(QFile(temporary.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly));
-    for (const QString &name : std::as_const(folders))
-        QVERIFY(folder.mkdir(name));
-    for (qsizetype i = 0; i < targets.size(); ++i) {
-        QVERIFY(QFile::link(temporary.filePath(targets.at(i)),
-                            folder.filePath(QStringLiteral("link %1").arg(i))));
-    }
-    const AddressPath::Children children = AddressPath::children(folder.path(), Root);
-    QCOMPARE(children.names.size(), decided);
-    QCOMPARE(children.undecided.size(), undecided);
-    QCOMPARE(namesOf(folder.path(), Root),
-             folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
-#else
-    QSKIP("Nothing is undecided here");
-#endif
 }
 
 void tst_AddressPath::listsWhatComesAfterANameThatCannotBeDecoded()
@@ -367,7 +310,7 @@ void tst_AddressPath::listsWhatComesAfterANameThatCannotBeDecoded()
     // This is a name, not what stands for one that cannot be decoded.
     names << QStringLiteral("\uFFFD");
     QVERIFY(folder.mkdir(names.constLast()));
-    QCOMPARE(namesOf(temporary.path(), Root), names);
+    QCOMPARE(AddressPath::children(temporary.path(), Root), names);
     // The temporary folder cannot remove them.
     for (int i = 0; i < 200; ++i)
         QVERIFY(::rmdir(undecodable(i).constData()) == 0);
@@ -378,7 +321,7 @@ void tst_AddressPath::listsWhatComesAfterANameThatCannotBeDecoded()
 
 void tst_AddressPath::listsWhatOnlyQtFinds()
 {
-    const QStringList folders = namesOf(QStringLiteral(":"), Root);
+    const QStringList folders = AddressPath::children(QStringLiteral(":"), Root);
     QVERIFY(folders.contains(QStringLiteral("res")));
     QCOMPARE(folders,
              QDir(QStringLiteral(":/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
@@ -386,8 +329,9 @@ void tst_AddressPath::listsWhatOnlyQtFinds()
     QVERIFY(QDir(temporary.path()).mkpath(QStringLiteral("a/b")));
     const QString prefix = QStringLiteral("found");
     QDir::setSearchPaths(prefix, {QStringLiteral(":/"), temporary.path()});
-    QCOMPARE(namesOf(QStringLiteral("found:."), Root), folders);
-    QCOMPARE(namesOf(QStringLiteral("found:a"), Root), QStringList{QStringLiteral("b")});
+    QCOMPARE(AddressPath::children(QStringLiteral("found:."), Root), folders);
+    QCOMPARE(AddressPath::children(QStringLiteral("found:a"), Root),
+             QStringList{QStringLiteral("b")});
     QDir::setSearchPaths(prefix, {});
 }
 
@@ -396,20 +340,21 @@ void tst_AddressPath::listsNothingWhereNothingCanBeRead()
     const QTemporaryDir temporary;
     const QDir folder(temporary.path());
     for (const Style style : {Drives, Root}) {
-        QCOMPARE(namesOf(folder.filePath(QStringLiteral("gone")), style), QStringList());
-        QCOMPARE(namesOf(QString(10000, u'x'), style), QStringList());
-        QCOMPARE(namesOf(QStringLiteral("  "), style), QStringList());
+        QCOMPARE(AddressPath::children(folder.filePath(QStringLiteral("gone")), style),
+                 QStringList());
+        QCOMPARE(AddressPath::children(QString(10000, u'x'), style), QStringList());
+        QCOMPARE(AddressPath::children(QStringLiteral("  "), style), QStringList());
     }
     QFile file(folder.filePath(QStringLiteral("file")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(namesOf(file.fileName(), Root), QStringList());
+    QCOMPARE(AddressPath::children(file.fileName(), Root), QStringList());
 #ifdef Q_OS_UNIX
     const QString locked = folder.filePath(QStringLiteral("locked"));
     QVERIFY(folder.mkpath(QStringLiteral("locked/sub")));
     QVERIFY(QFile::setPermissions(locked, {}));
     {
         const Unprivileged user;
-        QCOMPARE(namesOf(locked, Root), QStringList());
+        QCOMPARE(AddressPath::children(locked, Root), QStringList());
     }
     QVERIFY(QFile::setPermissions(locked, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser));
 #endif
@@ -417,7 +362,7 @@ void tst_AddressPath::listsNothingWhereNothingCanBeRead()
 
 void tst_AddressPath::listsTheFoldersOfTheRoot()
 {
-    QCOMPARE(namesOf(QString(), Root),
+    QCOMPARE(AddressPath::children(QString(), Root),
              QDir(QStringLiteral("/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
 }
 
@@ -428,7 +373,7 @@ void tst_AddressPath::listsDrives()
     for (const QFileInfo &drive : drives)
         expected << drive.absolutePath().section(u'/', 0, 0);
     QVERIFY(!expected.isEmpty());
-    QCOMPARE(namesOf(QString(), Drives), expected);
+    QCOMPARE(AddressPath::children(QString(), Drives), expected);
 }
 
 NORVANE_TEST_MAIN(tst_AddressPath)
