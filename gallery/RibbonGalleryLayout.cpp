@@ -15,7 +15,7 @@ RibbonGalleryLayoutPrivate::~RibbonGalleryLayoutPrivate()
 }
 
 int RibbonGalleryLayoutPrivate::gap(int spacing, QStyle::PixelMetric metric,
-                                    Qt::Orientation orientation, const QWidget *widget) const
+                                    Qt::Orientation orientation, const QLayoutItem *item) const
 {
     Q_Q(const RibbonGalleryLayout);
     if (spacing >= 0)
@@ -25,10 +25,25 @@ int RibbonGalleryLayoutPrivate::gap(int spacing, QStyle::PixelMetric metric,
         smart = parentWidget->style()->pixelMetric(metric, nullptr, parentWidget);
     else if (const auto *parentLayout = qobject_cast<QLayout *>(q->parent()))
         smart = parentLayout->spacing();
+    const QWidget *widget = item->widget();
     if (smart != -1 || !widget)
         return smart;
     return widget->style()->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton,
                                           orientation);
+}
+
+void RibbonGalleryLayoutPrivate::measure() const
+{
+    Q_Q(const RibbonGalleryLayout);
+    if (minimumSize.isValid())
+        return;
+    QSize size(0, 0);
+    sizes.clear();
+    for (const QLayoutItem *item : items) {
+        sizes.append(item->sizeHint());
+        size = size.expandedTo(item->minimumSize());
+    }
+    minimumSize = size.grownBy(q->contentsMargins());
 }
 
 int RibbonGalleryLayoutPrivate::flow(const QRect &rect, bool place) const
@@ -40,11 +55,12 @@ int RibbonGalleryLayoutPrivate::flow(const QRect &rect, bool place) const
     int x = area.left();
     int y = area.top();
     int lineHeight = 0;
-    for (QLayoutItem *item : items) {
-        const QWidget *widget = item->widget();
-        const int hGap = gap(hSpacing, QStyle::PM_LayoutHorizontalSpacing, Qt::Horizontal, widget);
-        const int vGap = gap(vSpacing, QStyle::PM_LayoutVerticalSpacing, Qt::Vertical, widget);
-        const QSize size = item->sizeHint();
+    measure();
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        QLayoutItem *item = items[i];
+        const int hGap = gap(hSpacing, QStyle::PM_LayoutHorizontalSpacing, Qt::Horizontal, item);
+        const int vGap = gap(vSpacing, QStyle::PM_LayoutVerticalSpacing, Qt::Vertical, item);
+        const QSize size = sizes[i];
         int nextX = x + size.width() + hGap;
         if (nextX - hGap > area.right() && lineHeight > 0) {
             x = area.left();
@@ -115,12 +131,7 @@ QSize RibbonGalleryLayout::sizeHint() const
 QSize RibbonGalleryLayout::minimumSize() const
 {
     Q_D(const RibbonGalleryLayout);
-    if (!d->minimumSize.isValid()) {
-        QSize size(0, 0);
-        for (const QLayoutItem *item : d->items)
-            size = size.expandedTo(item->minimumSize());
-        d->minimumSize = size.grownBy(contentsMargins());
-    }
+    d->measure();
     return d->minimumSize;
 }
 

@@ -20,7 +20,8 @@ public:
     virtual ~RibbonGalleryLayoutPrivate();
 
     int gap(int spacing, QStyle::PixelMetric metric, Qt::Orientation orientation,
-            const QWidget *widget) const;
+            const QLayoutItem *item) const;
+    void measure() const;
     int flow(const QRect &rect, bool place) const;
 
     QList<QLayoutItem *> items;
@@ -30,6 +31,7 @@ public:
 
     // What was asked for since something changed; layouts around it ask several times.
     mutable QSize minimumSize;
+    mutable QList<QSize> sizes;
     mutable QHash<int, int> heights;
 };
 
