@@ -6,6 +6,7 @@
 #include "RibbonGalleryItem.h"
 #include "RibbonGalleryLayout.h"
 
+#include <QtGui/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -53,6 +54,15 @@ int RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
             return i;
     }
     return -1;
+}
+
+const QStringList &RibbonGalleryGroupPrivate::searchedTexts()
+{
+    if (texts.isEmpty()) {
+        for (const RibbonGalleryItem *item : std::as_const(items))
+            texts.append(item->text());
+    }
+    return texts;
 }
 
 bool RibbonGalleryGroupPrivate::hasFocus() const
@@ -112,6 +122,8 @@ int RibbonGalleryGroup::addItem(QAction *action, const QSize &iconSize, const QS
     item->setIconSize(iconSize);
     item->setFixedSize(fixedSize);
     item->setCollectEnabled(collectEnabled);
+    connect(action, &QAction::changed, item, [d] { d->texts.clear(); });
+    d->texts.clear();
     d->items.append(item);
     d->itemsLayout->addWidget(item);
     return count() - 1;
@@ -156,6 +168,7 @@ bool RibbonGalleryGroup::removeItem(QAction *action)
     const int index = d->indexOf(action);
     if (index < 0)
         return false;
+    d->texts.clear();
     RibbonGalleryItem *item = d->items.takeAt(index);
     d->itemsLayout->removeWidget(item);
     delete item;
@@ -186,11 +199,12 @@ bool RibbonGalleryGroup::filter(const QString &text)
     Q_D(RibbonGalleryGroup);
     QList<RibbonGalleryItem *> changed;
     bool anyMatches = false;
-    for (RibbonGalleryItem *item : std::as_const(d->items)) {
-        const bool matches = item->text().contains(text);
+    const QStringList &texts = d->searchedTexts();
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const bool matches = texts[i].contains(text);
         anyMatches = anyMatches || matches;
-        if (matches == item->isHidden())
-            changed.append(item);
+        if (matches == d->items[i]->isHidden())
+            changed.append(d->items[i]);
     }
     if (!anyMatches)
         hide();

@@ -23,6 +23,7 @@ public:
     virtual ~RibbonGalleryGroupPrivate();
 
     int indexOf(const QAction *action) const;
+    const QStringList &searchedTexts();
     bool hasFocus() const;
 
     QList<RibbonGalleryItem *> items;
@@ -33,6 +34,10 @@ public:
     QPushButton *toTopButton;
     QPushButton *toBottomButton;
     RibbonGalleryGroup *q_ptr = nullptr;
+
+    // What the items say, if it was asked for since something changed: it takes longer to ask them
+    // than to search through it.
+    QStringList texts;
 };
 
 } // namespace Norvane
