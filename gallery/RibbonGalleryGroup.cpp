@@ -65,6 +65,18 @@ const QStringList &RibbonGalleryGroupPrivate::searchedTexts()
     return texts;
 }
 
+// Qt does with a widget whose parent cannot be seen nearly all that it does with one that can be
+// seen, and none of it is needed by items, which get to know all of it when their frame is shown.
+void RibbonGalleryGroupPrivate::setHidden(RibbonGalleryItem *item, bool hidden)
+{
+    if (groupFrame->isVisible()) {
+        item->setHidden(hidden);
+        return;
+    }
+    item->setAttribute(Qt::WA_WState_Hidden, hidden);
+    item->setAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
 bool RibbonGalleryGroupPrivate::hasFocus() const
 {
     return groupFrame->isAncestorOf(QApplication::focusWidget());
@@ -214,13 +226,15 @@ bool RibbonGalleryGroup::filter(const QString &text)
     d->itemsLayout->setEnabled(false);
     layout()->setEnabled(false);
     for (RibbonGalleryItem *item : std::as_const(changed))
-        item->setVisible(item->isHidden());
+        d->setHidden(item, !item->isHidden());
     d->itemsLayout->setEnabled(true);
     layout()->setEnabled(true);
     if (!anyMatches)
         return false;
-    if (!changed.isEmpty())
+    if (!changed.isEmpty()) {
+        d->itemsLayout->invalidate();
         d->groupFrame->updateGeometry();
+    }
     show();
     return true;
 }

@@ -24,6 +24,7 @@ public:
 
     int indexOf(const QAction *action) const;
     const QStringList &searchedTexts();
+    void setHidden(RibbonGalleryItem *item, bool hidden);
     bool hasFocus() const;
 
     QList<RibbonGalleryItem *> items;
