@@ -129,13 +129,18 @@ public:
         return Gui::open(this) && QTest::qWaitForWindowActive(this) && load();
     }
 
+    //! Rows come first and find their order then: who clicks in between hits another.
     bool load()
     {
         setFocus();
-        const QString folder = files()->rootPath();
-        return QTest::qWaitFor([this, folder] {
-            return files()->rowCount(rootIndex())
-                == QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size();
+        const QDir folder(files()->rootPath());
+        const QStringList names = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot,
+                                                   QDir::Name | QDir::IgnoreCase | QDir::DirsFirst);
+        return QTest::qWaitFor([this, names] {
+            QStringList rows;
+            for (int row = 0; row < files()->rowCount(rootIndex()); ++row)
+                rows << files()->fileName(files()->index(row, 0, rootIndex()));
+            return rows == names;
         });
     }
 

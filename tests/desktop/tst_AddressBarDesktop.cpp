@@ -59,7 +59,8 @@ struct Window : QWidget
     bool open()
     {
         show();
-        return QTest::qWaitForWindowActive(this);
+        return QTest::qWaitForWindowActive(this)
+            && QTest::qWaitFor([this] { return showsCrumbs(); });
     }
 
     QString path(const QString &name) const { return folder.filePath(name); }
