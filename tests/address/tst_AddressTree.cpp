@@ -1510,9 +1510,10 @@ void tst_AddressTree::leavesAFolderBeforeItIsListed()
     tree.slotPathChanged(files.path(u"other"_s));
     QCOMPARE(tree.targetPath(), files.path(u"other"_s));
     QCOMPARE(tree.selectedPaths(), QStringList());
-    QCOMPARE(loads.size(), 0);
+    const QVariantList slow{files.path(u"slow"_s)};
+    QVERIFY(!loads.contains(slow));
     hold.release();
-    QTRY_VERIFY(loads.contains(QVariantList{files.path(u"slow"_s)}));
+    QTRY_VERIFY(loads.contains(slow));
     QVERIFY(tree.load());
     QCOMPARE(tree.targetPath(), files.path(u"other"_s));
     QCOMPARE(tree.selectedPaths(), QStringList());
