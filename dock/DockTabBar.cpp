@@ -16,13 +16,6 @@
 
 namespace Norvane {
 
-namespace {
-
-// Texts come and go with documents; a limit keeps those that went from adding up.
-constexpr qsizetype mostSizes = 4096;
-
-} // namespace
-
 DockTabBar::DockTabBar(QWidget *parent)
     : QTabBar(parent)
     , m_closeButton(new QWidget(this))
@@ -38,8 +31,7 @@ QSize DockTabBar::tabSizeHint(int index) const
         // A layout asks for all tabs in turn, so that one look at them is enough.
         if (!std::exchange(m_layingOut, false))
             beginLayout();
-        const Sizes sizes = sizesOf(index);
-        return m_overfull ? QSize(sizes.minimum.width(), sizes.hint.height()) : sizes.hint;
+        return sizesOf(index).hint;
     }
     QSize size = QTabBar::tabSizeHint(index);
     if (size.isValid() && hasCloseButton(index))
@@ -54,12 +46,6 @@ QSize DockTabBar::minimumTabSizeHint(int index) const
     return index < m_tabs.size() ? m_tabs.at(index).sizes.minimum : QSize();
 }
 
-QSize DockTabBar::sizeHint() const
-{
-    const QSize size = QTabBar::sizeHint();
-    return m_overfull ? QSize(m_width, size.height()) : size;
-}
-
 void DockTabBar::tabLayoutChange()
 {
     m_layingOut = false;
@@ -69,12 +55,10 @@ void DockTabBar::tabLayoutChange()
 void DockTabBar::beginLayout() const
 {
     m_current = currentIndex();
-    // For one tab that comes QTabBar lays all out five times.
-    if (!std::exchange(m_inserting, count() > m_knownCount))
+    // For one tab that comes QTabBar lays all out five times, for one that goes twice.
+    if (!m_changing)
         lookAtEach();
-    // Tabs that are cut short and still do not fit all get their least width. Asked for, it is
-    // theirs at once; otherwise QTabBar takes the room from one after the other.
-    m_overfull = m_leastWidth > width() && (shape() == RoundedNorth || shape() == RoundedSouth);
+    m_changing = m_changing || count() != m_knownCount;
 }
 
 void DockTabBar::lookAtEach() const
@@ -85,74 +69,56 @@ void DockTabBar::lookAtEach() const
         ++m_first;
     while (m_last > m_first && !isTabVisible(m_last))
         --m_last;
-    if (m_tabs.size() < count())
-        m_tabs.resize(count());
-    int width = 0;
-    int leastWidth = 0;
     for (int index = m_first; index <= m_last; ++index) {
         if (!isTabVisible(index))
             continue;
-        if (m_tabs.size() > count() && !(m_tabs.at(index).look == lookOf(index)))
-            m_tabs.removeAt(index);
-        const Sizes sizes = lookAt(index);
-        width += sizes.hint.width();
-        leastWidth += sizes.minimum.width();
+        const Look look = lookOf(index);
+        // Where the first one differs one came or went; those behind it are known already.
+        if (index < m_tabs.size() && m_tabs.size() != count() && m_tabs.at(index).look != look) {
+            if (m_tabs.size() > count())
+                m_tabs.removeAt(index);
+            else
+                m_tabs.insert(index, Tab());
+        }
+        if (index >= m_tabs.size())
+            m_tabs.resize(index + 1);
+        lookAt(index, look);
     }
     m_tabs.resize(count());
-    m_width = width;
-    m_leastWidth = leastWidth;
 }
 
 DockTabBar::Sizes DockTabBar::sizesOf(int index) const
 {
     if (index < 0 || index >= m_tabs.size())
         return {};
-    // Those at the ends and beside the current one change their look with what others do.
-    const bool middle =
-        index > m_first + 1 && index < m_last - 1 && std::abs(index - m_current) > 1;
-    return middle ? m_tabs.at(index).sizes : lookAt(index);
+    // Which tab is the current one changes after the first layout for one that comes.
+    const Tab &tab = m_tabs.at(index);
+    return tab.isKnown() && std::abs(index - m_current) > 2 ? tab.sizes
+                                                            : lookAt(index, lookOf(index));
 }
 
-DockTabBar::Sizes DockTabBar::lookAt(int index) const
+DockTabBar::Sizes DockTabBar::lookAt(int index, const Look &look) const
 {
-    const Look look = lookOf(index);
-    if (m_tabs.at(index).look == look)
-        return m_tabs.at(index).sizes;
-    const auto known = m_sizes.constFind(look);
-    if (known != m_sizes.constEnd())
-        return keep(index, {look, *known});
-    const auto measure = [this, index] {
-        const QScopedValueRollback measuring(m_measuring, true);
-        return Sizes{tabSizeHint(index), QTabBar::minimumTabSizeHint(index)};
-    };
-    const Sizes sizes = measure();
-    // While a tab is inserted or removed Qt still has another one for the first or the last.
-    if (m_knownCount != count() && (index <= m_first + 1 || index >= m_last - 1))
-        return keep(index, {{}, sizes});
-    if (m_sizes.size() >= mostSizes)
-        m_sizes.clear();
-    m_sizes.insert(look, sizes);
-    return keep(index, {look, sizes});
-}
-
-DockTabBar::Sizes DockTabBar::keep(int index, const Tab &tab) const
-{
-    Tab &kept = m_tabs[index];
-    m_width += tab.sizes.hint.width() - kept.sizes.hint.width();
-    m_leastWidth += tab.sizes.minimum.width() - kept.sizes.minimum.width();
-    kept = tab;
+    Tab &tab = m_tabs[index];
+    if (tab.look == look)
+        return tab.sizes;
+    const QScopedValueRollback measuring(m_measuring, true);
+    tab = {look, {tabSizeHint(index), QTabBar::minimumTabSizeHint(index)}};
+    // For one that comes Qt has another one for the last at first; and what has buttons of its own
+    // may change its size with them.
+    if (count() > m_knownCount || hasOwnButton(index))
+        tab.look = {};
     return tab.sizes;
 }
 
 DockTabBar::Look DockTabBar::lookOf(int index) const
 {
-    const QIcon icon = tabIcon(index);
     int state = 0;
-    for (const bool is :
-         {index == m_first, index == m_last, index == m_current, index == m_current - 1,
-          index == m_current + 1, isTabEnabled(index), hasCloseButton(index)})
+    for (const bool is : {index == m_first, index == m_last, index == m_current,
+                          index == m_current - 1, index == m_current + 1, isTabEnabled(index),
+                          hasCloseButton(index), hasOwnButton(index), !tabIcon(index).isNull()})
         state = 2 * state + is;
-    return {tabText(index), icon.isNull() ? 0 : icon.cacheKey(), state};
+    return {tabText(index), state};
 }
 
 void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
@@ -181,13 +147,13 @@ void DockTabBar::initStyleOption(QStyleOptionTab *option, int index) const
 
 void DockTabBar::tabInserted(int index)
 {
+    m_knownCount = count();
     // QTabBar makes a button for every new tab of a closable bar.
-    if (QWidget *button = tabsClosable() ? tabButton(index, closeLook().side) : nullptr) {
+    if (QWidget *button = tabButton(index, closeLook().side)) {
         setTabButton(index, closeLook().side, nullptr);
         delete button;
     }
-    m_inserting = false;
-    m_knownCount = count();
+    m_changing = false;
     m_pressed = -1;
     setHovered(-1);
     QTabBar::tabInserted(index);
@@ -195,6 +161,7 @@ void DockTabBar::tabInserted(int index)
 
 void DockTabBar::tabRemoved(int index)
 {
+    m_changing = false;
     m_knownCount = count();
     m_pressed = -1;
     setHovered(-1);
@@ -203,9 +170,8 @@ void DockTabBar::tabRemoved(int index)
 
 void DockTabBar::forgetSizes()
 {
-    m_sizes.clear();
     m_tabs.clear();
-    m_inserting = false;
+    m_changing = false;
     m_closeLook.reset();
 }
 
@@ -304,6 +270,11 @@ void DockTabBar::paintEvent(QPaintEvent *event)
 bool DockTabBar::hasCloseButton(int index) const
 {
     return tabsClosable() && !tabButton(index, closeLook().side);
+}
+
+bool DockTabBar::hasOwnButton(int index) const
+{
+    return tabButton(index, LeftSide) || tabButton(index, RightSide);
 }
 
 const DockTabBar::CloseLook &DockTabBar::closeLook() const

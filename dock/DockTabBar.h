@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtWidgets/QTabBar>
 
 #include <optional>
@@ -22,8 +21,6 @@ class DockTabBar : public QTabBar
 
 public:
     explicit DockTabBar(QWidget *parent = nullptr);
-
-    QSize sizeHint() const override;
 
 protected:
     QSize tabSizeHint(int index) const override;
@@ -47,16 +44,15 @@ private:
     struct Look
     {
         QString text;
-        qint64 icon = 0;
         int state = -1;
 
         friend bool operator==(const Look &one, const Look &other) noexcept
         {
-            return one.state == other.state && one.icon == other.icon && one.text == other.text;
+            return one.state == other.state && one.text == other.text;
         }
-        friend size_t qHash(const Look &look, size_t seed = 0) noexcept
+        friend bool operator!=(const Look &one, const Look &other) noexcept
         {
-            return qHashMulti(seed, look.text, look.icon, look.state);
+            return !(one == other);
         }
     };
     struct Sizes
@@ -66,6 +62,8 @@ private:
     };
     struct Tab
     {
+        bool isKnown() const { return look.state >= 0; }
+
         Look look;
         Sizes sizes;
     };
@@ -78,11 +76,12 @@ private:
 
     void beginLayout() const;
     void lookAtEach() const;
-    Sizes lookAt(int index) const;
-    Sizes keep(int index, const Tab &tab) const;
+    Sizes lookAt(int index, const Look &look) const;
     Sizes sizesOf(int index) const;
     Look lookOf(int index) const;
     bool hasCloseButton(int index) const;
+    //! Whether there is a widget that an application set, or that QTabBar made a moment ago.
+    bool hasOwnButton(int index) const;
     const CloseLook &closeLook() const;
     void forgetSizes();
     QRect closeRect(int index) const;
@@ -93,17 +92,12 @@ private:
 
     // Qt matches the rules of a close button with the parent of the widget that is painted.
     QWidget *m_closeButton;
-    mutable QHash<Look, Sizes> m_sizes;
     mutable QList<Tab> m_tabs;
     mutable int m_first = 0;
     mutable int m_last = -1;
     mutable int m_current = -1;
     mutable bool m_layingOut = false;
-    mutable bool m_inserting = false;
-    // The tabs are wider than the bar however short their texts are cut.
-    mutable bool m_overfull = false;
-    mutable int m_width = 0;
-    mutable int m_leastWidth = 0;
+    mutable bool m_changing = false;
     mutable std::optional<CloseLook> m_closeLook;
     mutable bool m_measuring = false;
     int m_knownCount = 0;

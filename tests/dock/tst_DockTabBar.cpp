@@ -12,6 +12,8 @@
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QVBoxLayout>
 
@@ -37,7 +39,11 @@ private Q_SLOTS:
     void namesTheButton();
     void hidesTheButtonsWhileATabIsMoved();
     void movesByTheKeyboard();
+    void laysTabsOutLikeABarOfQt_data();
     void laysTabsOutLikeABarOfQt();
+    void measuresOnlyTheTabsThatChange();
+    void forgetsTheButtonWhenTabsComeAndGo_data();
+    void forgetsTheButtonWhenTabsComeAndGo();
 };
 
 namespace {
@@ -119,6 +125,25 @@ void tst_DockTabBar::looksLikeABarOfQt_data()
         host.tabs->insertTab(0, new QWidget, u"first of all"_s);
         host.tabs->removeTab(2);
     }) << QString();
+    QTest::newRow("not closable") << Way([](Host &host) {
+        add(host, 3);
+        host.tabs->setTabsClosable(false);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }) << QString();
+    QTest::newRow("buttons of an application") << Way([](Host &host) {
+        add(host, 4);
+        host.bar()->setTabButton(1, QTabBar::RightSide, new QLabel(u"mine"_s));
+        host.bar()->setTabButton(2, QTabBar::LeftSide, new QLabel(u"another"_s));
+    }) << QString();
+    for (const Qt::TextElideMode mode : {Qt::ElideRight, Qt::ElideMiddle}) {
+        const auto cutShort = [mode](Host &host) {
+            host.tabs->setElideMode(mode);
+            host.tabs->setUsesScrollButtons(false);
+            for (int i = 0; i < 7; ++i)
+                host.tabs->addTab(new QWidget, u"a &long name of document %1.txt"_s.arg(i));
+        };
+        QTest::addRow("cut short, %d", int(mode)) << Way(cutShort) << QString();
+    }
     QTest::newRow("an application's sheet") << Way([](Host &host) { add(host, 3); })
                                             << u"QTabBar::tab:selected { font: bold; }"
                                                "QTabBar::tab:last { padding-right: 30px; }"
@@ -325,13 +350,34 @@ void tst_DockTabBar::movesByTheKeyboard()
     QCOMPARE(host.tabs->currentIndex(), 0);
 }
 
+void tst_DockTabBar::laysTabsOutLikeABarOfQt_data()
+{
+    QTest::addColumn<QString>("more");
+    QTest::addColumn<Qt::TextElideMode>("mode");
+    QTest::newRow("the last is wider") << u"QTabBar::tab:selected { font: bold; }"
+                                          "QTabBar::tab:last { padding-right: 30px; }"_s
+                                       << Qt::ElideNone;
+    QTest::newRow("the first is wider") << u"QTabBar::tab:first { padding-left: 25px; }"
+                                           "QTabBar::tab:disabled { padding-left: 14px; }"_s
+                                        << Qt::ElideRight;
+    QTest::newRow("neighbours are wider")
+        << u"QTabBar::tab:previous-selected { padding-right: 28px; }"
+           "QTabBar::tab:next-selected { padding-left: 23px; }"
+           "QTabBar::tab:only-one { padding-left: 60px; }"_s
+        << Qt::ElideMiddle;
+}
+
 void tst_DockTabBar::laysTabsOutLikeABarOfQt()
 {
-    const QString more = u"QTabBar::tab:selected { font: bold; }"
-                         "QTabBar::tab:last { padding-right: 30px; }"_s;
-    const auto player = [&more](const QList<Steps::Step> &steps, QStringList *story) -> QString {
+    QFETCH(QString, more);
+    QFETCH(Qt::TextElideMode, mode);
+    const auto player = [&](const QList<Steps::Step> &steps, QStringList *story) -> QString {
         Host ours(true, more);
         Host plain(false, more);
+        // Else QTabBar looks for other rooms than ours, which never has more than it wants.
+        plain.bar()->setExpanding(false);
+        for (const Host *host : {&ours, &plain})
+            host->tabs->setElideMode(mode);
         if (!ours.open() || !plain.open())
             return u"no window"_s;
         for (const auto &[kind, number] : steps) {
@@ -379,6 +425,19 @@ void tst_DockTabBar::laysTabsOutLikeABarOfQt()
                     if (!hidden)
                         tabs->tabBar()->moveTab(index, number / 100 % qMax(1, count));
                     break;
+                case 11:
+                    tabs->tabBar()->setVisible(on);
+                    break;
+                case 12:
+                    tabs->setUsesScrollButtons(on);
+                    break;
+                case 13:
+                    tabs->setTabsClosable(on || number / 200 % 2);
+                    break;
+                case 14:
+                    tabs->tabBar()->setTabButton(index, QTabBar::LeftSide,
+                                                 on && count > 0 ? new QLabel(text) : nullptr);
+                    break;
                 default:
                     tabs->window()->resize(200 + number % 1000, 120);
                     break;
@@ -389,6 +448,8 @@ void tst_DockTabBar::laysTabsOutLikeABarOfQt()
             const QTabBar *other = plain.bar();
             if (bar->currentIndex() != other->currentIndex())
                 return u"another tab is current"_s;
+            if (!bar->isVisible())
+                continue;
             // How far a bar is scrolled depends on what it went through: QTabBar's new tabs have no
             // button at first.
             std::optional<int> scrolled;
@@ -412,13 +473,97 @@ void tst_DockTabBar::laysTabsOutLikeABarOfQt()
         return {};
     };
     QRandomGenerator random(5);
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < 10; ++round) {
         QList<Steps::Step> steps;
         for (int i = 0; i < 60; ++i)
-            steps.append({random.bounded(12), random.bounded(100000)});
+            steps.append({random.bounded(16), random.bounded(100000)});
         const QString wrong = Steps::play(steps, player);
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
+}
+
+void tst_DockTabBar::measuresOnlyTheTabsThatChange()
+{
+    struct Style : QProxyStyle
+    {
+        QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                               const QWidget *widget) const override
+        {
+            measured += type == CT_TabBarTab;
+            return QProxyStyle::sizeFromContents(type, option, size, widget);
+        }
+        mutable int measured = 0;
+    };
+    Style style;
+    DockTabWidget tabs;
+    tabs.tabBar()->setStyle(&style);
+    QVERIFY(Gui::open(&tabs));
+    for (int i = 0; i < 100; ++i)
+        tabs.addTab(new QWidget, u"document %1.txt"_s.arg(i));
+    QCoreApplication::processEvents();
+    const QList<std::function<void()>> changes{
+        [&] { tabs.addTab(new QWidget, u"last"_s); },
+        [&] { tabs.insertTab(0, new QWidget, u"first"_s); },
+        [&] { tabs.insertTab(50, new QWidget, u"middle"_s); },
+        [&] { delete tabs.widget(0); },
+        [&] { delete tabs.widget(50); },
+        [&] { delete tabs.widget(100); },
+        [&] { tabs.setCurrentIndex(70); },
+        [&] { tabs.setTabText(40, u"another text"_s); },
+    };
+    int most = 0;
+    for (qsizetype i = 0; i < changes.size(); ++i) {
+        style.measured = 0;
+        changes.at(i)();
+        QCoreApplication::processEvents();
+        most = qMax(most, style.measured);
+        QVERIFY2(style.measured < 80, qPrintable(u"%1: %2"_s.arg(i).arg(style.measured)));
+    }
+    QVERIFY(most > 0);
+}
+
+void tst_DockTabBar::forgetsTheButtonWhenTabsComeAndGo_data()
+{
+    QTest::addColumn<bool>("comes");
+    QTest::newRow("one comes") << true;
+    QTest::newRow("one goes") << false;
+}
+
+void tst_DockTabBar::forgetsTheButtonWhenTabsComeAndGo()
+{
+    QFETCH(bool, comes);
+    Host host(true);
+    add(host, 4);
+    QVERIFY(host.open());
+    const auto change = [&] {
+        if (comes)
+            host.tabs->insertTab(0, new QWidget, u"document 9.txt"_s);
+        else
+            delete host.tabs->widget(0);
+        QCoreApplication::processEvents();
+    };
+    const auto isRed = [&] {
+        const QImage picture = Gui::picture(host.bar());
+        const QPoint place = buttonAt(host.bar(), 1);
+        for (int y = place.y() - 8; y <= place.y() + 8; ++y) {
+            for (int x = place.x() - 8; x <= place.x() + 8; ++x) {
+                if (Gui::pixel(picture, {x, y}) == QColor(243, 144, 141))
+                    return true;
+            }
+        }
+        return false;
+    };
+    QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
+    const QPoint button = buttonAt(host.bar(), 1);
+    Gui::moveMouse(host.bar(), button);
+    QTRY_VERIFY(isRed());
+    change();
+    QVERIFY(!isRed());
+
+    Gui::press(host.bar(), button);
+    change();
+    Gui::release(host.bar(), button);
+    QCOMPARE(requested.count(), 0);
 }
 
 NORVANE_TEST_MAIN(tst_DockTabBar)
