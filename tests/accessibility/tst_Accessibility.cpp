@@ -138,7 +138,7 @@ void tst_Accessibility::selectsATab()
     Frame frame;
     QVERIFY(Gui::open(&frame.window));
     const QSignalSpy changes(frame.agent.ribbonBar(), &RibbonBar::signalCurrentPageChanged);
-    auto *tab = find(accessible(frame.agent.ribbonBar()), QAccessible::PageTab).last();
+    auto *tab = find(accessible(frame.agent.ribbonBar()), QAccessible::PageTab).constLast();
     tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(changes.count(), 1);
     QVERIFY(tab->state().selected);
@@ -378,7 +378,7 @@ void tst_Accessibility::namesCrumbsByTheirPaths()
     QCOMPARE(find(bar, QAccessible::ButtonDropDown, folder.path()).size(), 1);
     QCOMPARE(find(bar, QAccessible::ButtonMenu, u"Root"_s).size(), 1);
     find(bar, QAccessible::ButtonDropDown, folder.path())
-        .first()
+        .constFirst()
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());
 }

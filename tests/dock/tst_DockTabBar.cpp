@@ -221,13 +221,13 @@ void tst_DockTabBar::closesByPressAndRelease()
     QCOMPARE(requested.count(), 0);
     Gui::release(host.bar(), buttonAt(host.bar(), 1));
     QCOMPARE(requested.count(), 1);
-    QCOMPARE(requested.constFirst(), QVariantList({1}));
+    QCOMPARE(requested.constFirst(), QVariantList{1});
     QCOMPARE(clicked.count(), 0);
     QCOMPARE(host.tabs->currentIndex(), 0);
     // A second click that comes at once is a click as well.
     QTest::mouseDClick(host.windowHandle(), Qt::LeftButton, {},
                        Gui::inWindow(host.bar(), buttonAt(host.bar(), 2)));
-    QCOMPARE(requested.constLast(), QVariantList({2}));
+    QCOMPARE(requested.constLast(), QVariantList{2});
     Gui::click(host.bar(), buttonAt(host.bar(), 1), Qt::RightButton);
     QCOMPARE(host.tabs->currentIndex(), 0);
 }

@@ -442,7 +442,7 @@ void tst_RibbonGallery::stripStaysIfNothingChanged()
     window.gallery->hide();
     window.gallery->show();
     QVERIFY(!before.at(0));
-    QCOMPARE(window.strip().first(2), QStringList({u"Item 1"_s, u"Item 0"_s}));
+    QCOMPARE(window.strip().sliced(0, 2), QStringList({u"Item 1"_s, u"Item 0"_s}));
 }
 
 void tst_RibbonGallery::stripCannotBeCollected()
@@ -485,7 +485,7 @@ void tst_RibbonGallery::placeholdersAccumulate()
     GalleryWindow::clickMarker(window.item(0, 1));
     window.closePopup();
     QStringList expected = {u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"b"_s, u"a"_s};
-    QTRY_COMPARE(window.strip().first(6), expected);
+    QTRY_COMPARE(window.strip().sliced(0, 6), expected);
     // There is room for four more.
     expected << QStringList(4, u"-"_s);
     QCOMPARE(window.strip(), expected);
