@@ -11,36 +11,36 @@
 
 namespace Workbench {
 
-static QImage embossed(const QImage &image)
+// Each pixel becomes the grey that is made of the three above it, beside it and below it.
+template<typename Grey>
+static QImage greyed(const QImage &image, Grey grey)
 {
     const QImage light = Pixels::withLightness(image);
     if (light.isNull())
         return {};
     const Pixels::Lines<const QRgb> lines(light);
     return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
-        const QRgb *above = lines[place.y()] + place.x();
-        const QRgb *below = lines[place.y() + 2] + place.x();
-        const int grey = Pixels::limited(128 + qAlpha(below[2]) - qAlpha(above[0]));
-        return qRgb(grey, grey, grey);
+        const auto at = [=](int dy) { return lines[place.y() + dy] + place.x(); };
+        const int level = Pixels::limited(grey(at(0), at(1), at(2)));
+        return qRgb(level, level, level);
+    });
+}
+
+static QImage embossed(const QImage &image)
+{
+    return greyed(image, [](const QRgb *above, const QRgb *, const QRgb *below) {
+        return 128 + qAlpha(below[2]) - qAlpha(above[0]);
     });
 }
 
 static QImage drawn(const QImage &image)
 {
-    const QImage light = Pixels::withLightness(image);
-    if (light.isNull())
-        return {};
-    const Pixels::Lines<const QRgb> lines(light);
-    return Pixels::recolouredAt(image, [=](QRgb, QPoint place) {
-        const QRgb *above = lines[place.y()] + place.x();
-        const QRgb *level = lines[place.y() + 1] + place.x();
-        const QRgb *below = lines[place.y() + 2] + place.x();
-        const int across = qAlpha(above[2]) + 2 * qAlpha(level[2]) + qAlpha(below[2])
-            - qAlpha(above[0]) - 2 * qAlpha(level[0]) - qAlpha(below[0]);
+    return greyed(image, [](const QRgb *above, const QRgb *beside, const QRgb *below) {
+        const int across = qAlpha(above[2]) + 2 * qAlpha(beside[2]) + qAlpha(below[2])
+            - qAlpha(above[0]) - 2 * qAlpha(beside[0]) - qAlpha(below[0]);
         const int down = qAlpha(below[0]) + 2 * qAlpha(below[1]) + qAlpha(below[2])
             - qAlpha(above[0]) - 2 * qAlpha(above[1]) - qAlpha(above[2]);
-        const int grey = Pixels::limited(255 - std::sqrt(across * across + down * down));
-        return qRgb(grey, grey, grey);
+        return 255 - std::sqrt(across * across + down * down);
     });
 }
 
