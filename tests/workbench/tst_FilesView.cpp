@@ -10,6 +10,7 @@
 #include <Norvane/RibbonBar.h>
 
 #include <QtCore/QMimeData>
+#include <QtCore/QMimeDatabase>
 #include <QtGui/QAbstractFileIconProvider>
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void tellsKindsOfFilesApart();
     void leavesItsIconsToTheTree();
     void doesNotLookIntoFiles();
+    void namesTypesBySuffix();
 };
 
 namespace {
@@ -465,6 +467,26 @@ void tst_FilesView::doesNotLookIntoFiles()
     };
     QTRY_VERIFY(!type(u"b"_s).isEmpty());
     QTRY_COMPARE(type(u"a"_s), type(u"b"_s));
+}
+
+void tst_FilesView::namesTypesBySuffix()
+{
+    const Files files;
+    // Known by its whole name, and the first of the tree.
+    files.write(u"CMakeLists.txt"_s, "project(a)");
+    files.write(u"a.txt"_s, "text");
+    files.write(u"b.unheard-of"_s, "text");
+    files.write(u"c"_s, "text");
+    const FilesWindow window(files);
+    QTRY_COMPARE(window.rows().size(), 4);
+    const auto type = [&](const QString &name) {
+        return window.model->type(window.model->index(files.path(name)));
+    };
+    const QString text = QMimeDatabase().mimeTypeForName(u"text/plain"_s).comment();
+    QTRY_COMPARE(type(u"CMakeLists.txt"_s), text);
+    QTRY_COMPARE(type(u"a.txt"_s), text);
+    QTRY_COMPARE(type(u"b.unheard-of"_s), u"File"_s);
+    QTRY_COMPARE(type(u"c"_s), u"File"_s);
 }
 
 NORVANE_TEST_MAIN(tst_FilesView)

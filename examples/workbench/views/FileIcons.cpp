@@ -40,9 +40,10 @@ QString FileIcons::type(const QFileInfo &info) const
         return QAbstractFileIconProvider::type(info);
     QString &type = m_types[info.suffix()];
     if (type.isEmpty()) {
-        type = QMimeDatabase()
-                   .mimeTypeForFile(info.fileName(), QMimeDatabase::MatchExtension)
-                   .comment();
+        // The first file's own name, CMakeLists.txt say, would speak for all that have its suffix.
+        const QMimeType known = QMimeDatabase().mimeTypeForFile(
+            QStringLiteral("x.") + info.suffix(), QMimeDatabase::MatchExtension);
+        type = known.isDefault() ? tr("File") : known.comment();
     }
     return type;
 }

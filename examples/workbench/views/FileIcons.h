@@ -18,6 +18,8 @@ namespace Workbench {
 */
 class FileIcons : public QObject, public QAbstractFileIconProvider
 {
+    Q_OBJECT
+
 public:
     explicit FileIcons(QObject *parent);
 
