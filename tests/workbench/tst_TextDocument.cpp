@@ -421,7 +421,7 @@ void tst_TextDocument::summarises()
     const QString summary = document.summary();
     for (const QString &part :
          {QStringLiteral("Line 2, column 3"), QStringLiteral("UTF-8 with BOM"),
-          QStringLiteral("CRLF"), QStringLiteral("100 %")})
+          QStringLiteral("CRLF"), QStringLiteral("100%")})
         QVERIFY2(summary.contains(part), qPrintable(summary));
 }
 

@@ -118,7 +118,7 @@ QString PictureDocument::summary() const
                       .arg(selection.y());
     }
     return summary
-        + tr("%1 × %2 pixels   |   %3 %")
+        + tr("%1 × %2 pixels   |   %3%")
               .arg(m_view->image().width())
               .arg(m_view->image().height())
               .arg(qRound(zoom() * 100));

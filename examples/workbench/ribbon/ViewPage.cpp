@@ -28,7 +28,7 @@ ViewPage::ViewPage(TextOptions *textOptions, QWidget *parent)
                             tr("Show the document smaller"),
                             {QKeySequence(u"Ctrl+-"_s)}});
     connect(m_zoomOut, &QAction::triggered, this, [this] { document()->zoomOut(); });
-    m_resetZoom = addCommand({tr("100 %"),
+    m_resetZoom = addCommand({tr("100%"),
                               "zoom-100"_L1,
                               tr("Show the document in its own size"),
                               {QKeySequence(u"Ctrl+0"_s)}});

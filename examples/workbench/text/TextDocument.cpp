@@ -134,7 +134,7 @@ QString TextDocument::summary() const
     const QTextCursor cursor = m_editor->textCursor();
     const std::optional<LineEnds::LineEnd> end = lineEnd();
     return tr("Line %1, column %2").arg(cursor.blockNumber() + 1).arg(cursor.columnNumber() + 1)
-        + tr("   |   %1   |   %2   |   %3 %")
+        + tr("   |   %1   |   %2   |   %3%")
               .arg(TextCodec::name(m_encoding), end ? LineEnds::name(*end) : tr("Mixed line ends"))
               .arg(qRound(zoom() * 100));
 }
