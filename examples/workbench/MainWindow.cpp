@@ -164,9 +164,12 @@ void MainWindow::setFullScreen(bool fullScreen)
 // The status bar's own messages would hide the panel's buttons in it.
 void MainWindow::showMessage(const QString &text)
 {
-    m_message->setText(text);
-    QTimer::singleShot(8000, m_message, [this, text] {
-        if (m_message->text() == text)
+    // A long path would push them aside, too.
+    const QString shown = fontMetrics().elidedText(text, Qt::ElideMiddle, width() / 3);
+    m_message->setText(shown);
+    m_message->setToolTip(text);
+    QTimer::singleShot(8000, m_message, [this, shown] {
+        if (m_message->text() == shown)
             m_message->clear();
     });
 }

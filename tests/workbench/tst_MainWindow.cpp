@@ -3,11 +3,15 @@
 
 #include "WorkbenchWindow.h"
 
+#include <Norvane/DockContainer.h>
+#include <Norvane/DockPanelWidget.h>
+
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStatusBar>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Workbench;
@@ -28,6 +32,7 @@ private Q_SLOTS:
     void ignoresOtherDrops();
     void goesWithUnsavedDocuments();
     void showsANoticeUntilItIsClosed();
+    void leavesThePanelsButtonsTheirPlace();
 };
 
 void tst_MainWindow::showsTheDocumentInFront()
@@ -211,6 +216,28 @@ void tst_MainWindow::showsANoticeUntilItIsClosed()
     Gui::click(bar->findChild<QAbstractButton *>(QStringLiteral("closeNotice")));
     QVERIFY(!bar->isVisible());
     QVERIFY(window.document()->notice().isEmpty());
+}
+
+// A message with a path of any length must not push the bottom panel's buttons aside.
+void tst_MainWindow::leavesThePanelsButtonsTheirPlace()
+{
+    const Files files;
+    const QString name(200, u'n');
+    QVERIFY(QDir(files.folder()).mkdir(name));
+    files.write(name + QStringLiteral("/a.txt"), "a");
+    WorkbenchWindow window;
+    const auto *docks = window.findChild<Norvane::DockContainer *>();
+    const QWidget *bar = docks->panelWidget(Norvane::DockContainer::BottomDockArea)->panel();
+    const auto place = [&] { return bar->mapTo(&window, QPoint()).x(); };
+    window.open({files.path(name)});
+    QTRY_COMPARE(place(), window.content()->mapTo(&window, QPoint()).x());
+    const QList<QLabel *> labels = window.statusBar()->findChildren<QLabel *>();
+    const auto message = std::find_if(labels.begin(), labels.end(), [&](const QLabel *label) {
+        return label->toolTip().contains(name);
+    });
+    QVERIFY(message != labels.end());
+    QCOMPARE_LE((*message)->fontMetrics().horizontalAdvance((*message)->text()),
+                window.width() / 3);
 }
 
 NORVANE_TEST_MAIN(tst_MainWindow)
