@@ -14,7 +14,9 @@
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
 #include <QtGui/QTextLayout>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTreeWidget>
 
@@ -34,9 +36,12 @@ private Q_SLOTS:
     void showsThePlaceholderWithoutDocuments();
     void listsTheHeadingsOfTheText();
     void goesToAHeading();
+    void showsLongHeadingsFromTheirBeginning();
     void showsTheProperties();
+    void hasRoomForTheProperties();
     void keepsValuesInTheirOrder();
     void findsInAllTexts();
+    void findsInAllTextsBehindAPicture();
     void logsWhatWasDone();
     void remembersTheLayout();
     void forgetsTheLayout();
@@ -181,6 +186,23 @@ void tst_Panels::goesToAHeading()
     QCOMPARE(window.editor()->textCursor().blockNumber(), 3);
 }
 
+void tst_Panels::showsLongHeadingsFromTheirBeginning()
+{
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(direction);
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        const Files files;
+        const WorkbenchWindow window({files.write(u"a.txt"_s, QByteArray("word ").repeated(99))});
+        auto *outline = window.findChild<OutlineView *>();
+        QCOMPARE(outline->count(), 1);
+        const QRect entry = outline->visualItemRect(outline->item(0));
+        QCOMPARE(entry.width(), outline->viewport()->width());
+        QCOMPARE_GE(entry.height(), outline->fontMetrics().height());
+        QVERIFY(!outline->horizontalScrollBar()->isVisible());
+    }
+}
+
 void tst_Panels::showsTheProperties()
 {
     const Files files;
@@ -195,6 +217,23 @@ void tst_Panels::showsTheProperties()
     QCOMPARE(value(u"State"_s), u"Saved"_s);
     QTest::keyClicks(window.editor(), u"x"_s);
     QCOMPARE(value(u"State"_s), u"Not saved"_s);
+}
+
+void tst_Panels::hasRoomForTheProperties()
+{
+    MainWindow::resetLayout();
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::system()); });
+    const Files files;
+    const WorkbenchWindow window({files.write(u"a.txt"_s, "abc")});
+    const auto *properties = window.findChild<PropertiesView *>();
+    QTRY_COMPARE(properties->header()->length(), properties->viewport()->width());
+    const QList<QTreeWidgetItem *> changed = properties->findItems(u"Changed"_s, Qt::MatchExactly);
+    QCOMPARE(changed.size(), 1);
+qDebug() << properties->viewport()->width() << properties->columnWidth(0) << changed.constFirst()->text(1) << properties->fontMetrics().horizontalAdvance(changed.constFirst()->text(1)) << properties->font() << properties->fontMetrics().averageCharWidth();
+    QCOMPARE_GE(properties->visualItemRect(changed.constFirst()).width(),
+                properties->columnWidth(0)
+                    + properties->fontMetrics().horizontalAdvance(changed.constFirst()->text(1)));
 }
 
 void tst_Panels::keepsValuesInTheirOrder()
@@ -255,6 +294,22 @@ void tst_Panels::findsInAllTexts()
     QVERIFY(results->topLevelItem(0)->text(0).contains(u"absent"_s));
 }
 
+void tst_Panels::findsInAllTextsBehindAPicture()
+{
+    const Files files;
+    const WorkbenchWindow window(
+        {files.write(u"a.txt"_s, "one\n"), files.writeQuarters(u"p.png"_s, QSize(8, 8))});
+    QVERIFY(window.picture());
+    window.key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_VERIFY(window.findChild<QLineEdit *>(u"findAllField"_s)->hasFocus());
+    window.type(u"one"_s);
+    window.key(Qt::Key_Return);
+    auto *results = window.findChild<FindResultsView *>()->findChild<QTreeWidget *>();
+    QTRY_COMPARE(results->topLevelItemCount(), 1);
+    Gui::click(results->viewport(), results->visualItemRect(results->topLevelItem(0)).center());
+    QCOMPARE(window.document()->title(), u"a.txt"_s);
+}
+
 void tst_Panels::logsWhatWasDone()
 {
     const Files files;
@@ -270,7 +325,7 @@ void tst_Panels::remembersTheLayout()
     {
         WorkbenchWindow window;
         window.resize(700, 600);
-        sizes = {171, panesOf(window)->width() - 171 - 130, 130};
+        sizes = {171, panesOf(window)->width() - 171 - 230, 230};
         panesOf(window)->setSizes(sizes);
         window.close();
     }

@@ -167,7 +167,7 @@ void HomePage::addFindGroup()
 
     column->addActions({previous, next, matchCase, wholeWords});
     group->addAction(findInAll);
-    m_findActions = {find, previous, next, matchCase, wholeWords, findInAll};
+    m_findActions = {find, previous, next, matchCase, wholeWords};
 }
 
 void HomePage::startFinding()

@@ -18,6 +18,7 @@ OutlineView::OutlineView(QWidget *parent)
 {
     setFrameShape(QFrame::NoFrame);
     setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Typing goes on while the outline waits for a pause.
     m_timer.setSingleShot(true);
     m_timer.setInterval(150);
@@ -67,10 +68,13 @@ void OutlineView::fill()
         before = block;
     }
     const QList<std::pair<QString, int>> &shown = headings.isEmpty() ? paragraphs : headings;
+    // As wide as the list, where a longer one ends in dots.
+    const QSize size(0, fontMetrics().height());
     for (const auto &[text, position] : shown) {
         auto *item = new QListWidgetItem(text, this);
         item->setData(Qt::UserRole, position);
         item->setToolTip(text);
+        item->setSizeHint(size);
     }
 }
 

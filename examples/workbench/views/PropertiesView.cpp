@@ -18,9 +18,13 @@ PropertiesView::PropertiesView(QWidget *parent)
 {
     setFrameShape(QFrame::NoFrame);
     setRootIsDecorated(false);
+    // The pane's share of a small window would cut off when the file was changed.
+    setMinimumWidth(30 * fontMetrics().averageCharWidth());
     setColumnCount(2);
     setHeaderLabels({tr("Property"), tr("Value")});
+    header()->setMinimumSectionSize(0);
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
 void PropertiesView::showDocument(const Document *document)
@@ -39,7 +43,7 @@ void PropertiesView::showDocument(const Document *document)
         add(tr("Changed"), locale.toString(file.lastModified(), QLocale::ShortFormat));
     }
     add(tr("State"), document->isModified() ? tr("Not saved") : tr("Saved"));
-    add(tr("Zoom"), tr("%1 %").arg(qRound(document->zoom() * 100)));
+    add(tr("Zoom"), tr("%1%").arg(qRound(document->zoom() * 100)));
 }
 
 void PropertiesView::add(const QString &name, const QString &value)
