@@ -16,7 +16,7 @@ QString AddressFileIcons::type(const QFileInfo &info) const
     const QMimeType type = m_database.mimeTypeForFile(info);
     QString &name = m_names[type.name()];
     if (name.isEmpty())
-        name = type.comment().isEmpty() ? type.name() : type.comment();
+        name = type.comment();
     return name;
 }
 

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void offersNothingWithoutFolders_data();
     void offersNothingWithoutFolders();
     void offersTheRootsFolders();
+    void hasTheIconsOfTheStyle();
     void namesWithAnythingInThem_data();
     void namesWithAnythingInThem();
 
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void menuTakesTheRoomThatItNeeds_data();
     void menuTakesTheRoomThatItNeeds();
     void longMenuIsOneColumnThatScrolls();
+    void longMenuKeepsALimitOfItsOwn();
     void longMenuMeasuresItsActionsNoMoreOftenThanAnother();
     void menuOpensUnderTheRootWhereQtPutsIt();
     void showOfTheMenuIsConsumed();
@@ -264,6 +266,41 @@ void tst_AddressEntry::offersTheRootsFolders()
     const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
     QCOMPARE(entry.menu()->actions().constFirst()->icon().pixmap(16).toImage(),
              icon.pixmap(16).toImage());
+}
+
+void tst_AddressEntry::hasTheIconsOfTheStyle()
+{
+    class Style : public QProxyStyle
+    {
+    public:
+        Style()
+            : QProxyStyle(QStringLiteral("Fusion"))
+        {
+        }
+
+        QIcon standardIcon(StandardPixmap icon, const QStyleOption *option,
+                           const QWidget *widget) const override
+        {
+            if (icon != SP_DirIcon)
+                return QProxyStyle::standardIcon(icon, option, widget);
+            QPixmap red(16, 16);
+            red.fill(Qt::red);
+            return red;
+        }
+    };
+    const Folders folders({QStringLiteral("a")});
+    const auto shown = [&folders] {
+        AddressEntry entry;
+        entry.setPath(folders.path());
+        const QIcon icon = entry.menu()->actions().constFirst()->icon();
+        return icon.pixmap(QSize(16, 16), 1).toImage().pixelColor(8, 8);
+    };
+    QVERIFY(shown() != QColor(Qt::red));
+    QApplication::setStyle(new Style);
+    const QColor other = shown();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QCOMPARE(other, QColor(Qt::red));
+    QVERIFY(shown() != QColor(Qt::red));
 }
 
 void tst_AddressEntry::namesWithAnythingInThem_data()
@@ -662,6 +699,21 @@ void tst_AddressEntry::longMenuIsOneColumnThatScrolls()
     QCOMPARE(clicks.at(0), QVariantList{folders.path(QStringLiteral("299"))});
 }
 
+void tst_AddressEntry::longMenuKeepsALimitOfItsOwn()
+{
+    Folders folders;
+    for (int i = 0; i < 300; ++i)
+        folders.make(QString::number(i));
+    Window window(blocks(3), folders.path());
+    QVERIFY(window.open());
+    QMenu *menu = window.entry->menu();
+    menu->setMaximumHeight(150);
+    int height = 0;
+    QVERIFY(openMenu(&window, [&] { height = menu->height(); }));
+    QCOMPARE(height, 150);
+    QCOMPARE(menu->maximumHeight(), 150);
+}
+
 void tst_AddressEntry::longMenuMeasuresItsActionsNoMoreOftenThanAnother()
 {
     class Style : public QProxyStyle
@@ -885,15 +937,21 @@ void tst_AddressEntry::hoverGoesWithTheMenu()
     Fixture f;
     QVERIFY(f.split.open());
     Gui::moveMouse(f.split.entry, f.split.onArrow());
-    bool closed = false;
+    int closed = 0;
     const QObject context;
     // After the crumb's own answer to the signal.
     QObject::connect(f.split.entry->menu(), &QMenu::aboutToHide, &context, [&] {
-        closed = true;
+        ++closed;
         QCOMPARE(Shot(f.split.entry).device(0, 0), backdrop);
     });
     QVERIFY(openMenu(&f.split, [] { }));
-    QVERIFY(closed);
+    QCOMPARE(closed, 1);
+    // Without a mouse that leaves the crumb for the menu.
+    Gui::moveMouse(&f.split, QPoint(f.split.width() - 2, f.split.height() - 2));
+    QVERIFY(whileOpen(
+        f.split.entry->menu(),
+        [&f] { QTest::mousePress(f.split.entry, Qt::LeftButton, {}, f.split.onArrow()); }, [] {}));
+    QCOMPARE(closed, 2);
 }
 
 void tst_AddressEntry::nameIsBlackAndCentred()

@@ -653,7 +653,7 @@ void tst_AddressFileOperations::copiesNoHiddenEntries()
 
 void tst_AddressFileOperations::leavesPipesAlone()
 {
-    const Files files({u"d"_s, u"to/p"_s});
+    const Files files({u"d"_s, u"d/link->p"_s, u"to/p"_s});
     QVERIFY(makePipe(files.path(u"d/p"_s)) && makePipe(files.path(u"q"_s)));
     const Answers answers({{u"Replace Current"_s}});
     // To open a pipe would wait for somebody at its other end.

@@ -3,6 +3,7 @@
 
 #include "TestCase.h"
 
+#include <address/AddressFolder.h>
 #include <address/AddressPath.h>
 
 #include <QtCore/QDir>
@@ -325,6 +326,10 @@ void tst_AddressPath::listsWhatOnlyQtFinds()
     QVERIFY(folders.contains(QStringLiteral("res")));
     QCOMPARE(folders,
              QDir(QStringLiteral(":/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
+    const auto all = AddressFolder::names(QStringLiteral(":/testsupport/fonts"),
+                                          AddressFolder::Wanted::FilesAndFolders);
+    QCOMPARE(all.files, QStringList{QStringLiteral("DejaVuSans.ttf")});
+    QCOMPARE(all.folders, QStringList());
     const QTemporaryDir temporary;
     QVERIFY(QDir(temporary.path()).mkpath(QStringLiteral("a/b")));
     const QString prefix = QStringLiteral("found");
