@@ -6,6 +6,7 @@
 
 #include <tests/gallery/GalleryWindow.h>
 
+#include <QtCore/QProcess>
 #include <QtGui/QScreen>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void groupIsMoved();
     void wheelScrolls();
     void popupEndsAboveTheScreensBottom();
+    void popupCoversWhatThePanelsHave();
     void emptyCatalogueIsSearched();
     void goesWithItsPopupOpen();
 };
@@ -41,6 +43,17 @@ QStringList texts(int count)
     for (int i = 0; i < count; ++i)
         result << u"item%1"_s.arg(i);
     return result;
+}
+
+// Tells it as a window manager does.
+void setAvailable(const QRect &area)
+{
+    const QString value =
+        u"%1,%2,%3,%4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+    const QString property = u"_NET_WORKAREA"_s;
+    QCOMPARE(QProcess::execute(
+                 u"xprop"_s, {u"-root"_s, u"-f"_s, property, u"32c"_s, u"-set"_s, property, value}),
+             0);
 }
 
 // Two groups in a window that has the keyboard.
@@ -299,6 +312,28 @@ void tst_GalleryDesktop::popupEndsAboveTheScreensBottom()
                  QSize(window.gallery->width() + 19, room + 2));
     RealMouse::key(u"Escape"_s);
     QTRY_VERIFY(!window.menu()->isVisible());
+}
+
+// Its room is the whole screen, and not what panels leave of it.
+void tst_GalleryDesktop::popupCoversWhatThePanelsHave()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QRect whole = screen->geometry();
+    const QRect available = screen->availableGeometry();
+    const QRect left = whole.adjusted(0, 0, 0, -400);
+    setAvailable(left);
+    QTRY_COMPARE(screen->availableGeometry(), left);
+    Window window(200);
+    QVERIFY(window.start());
+    window.openByMouse();
+    const int room = whole.height() - 30 - window.gallery->mapToGlobal(QPoint()).y();
+    QCOMPARE(window.popup()->height(), room);
+    QTRY_COMPARE(window.menu()->windowHandle()->height(), room + 2);
+    QCOMPARE(window.menu()->geometry().bottom() + 1, whole.height() - 30 + 2);
+    RealMouse::key(u"Escape"_s);
+    QTRY_VERIFY(!window.menu()->isVisible());
+    setAvailable(available);
+    QTRY_COMPARE(screen->availableGeometry(), available);
 }
 
 // The label that tells of no match comes up as a window of its own then.
