@@ -37,7 +37,7 @@ void PlainSubject::open()
 
 void PlainSubject::setContent(QWidget *content)
 {
-    content->setFixedSize(585, 540);
+    content->setFixedSize(588, 735);
     auto *action = new QWidgetAction(m_widget);
     action->setDefaultWidget(content);
     m_menu->addAction(action);

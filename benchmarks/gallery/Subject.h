@@ -41,7 +41,7 @@ private:
     Norvane::RibbonGroup *m_group;
 };
 
-// A catalogue of Qt's classes alone, in a popup of the size of a gallery's on a small screen.
+// A catalogue of Qt's classes alone, in a popup of the size that the gallery's has here.
 class PlainSubject : public Subject
 {
 public:
