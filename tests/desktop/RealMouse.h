@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
@@ -23,6 +24,38 @@ inline void xdotool(const QStringList &arguments)
     QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
 }
 
+//! Where \a window stands on the screen, as the X server knows.
+inline QPoint placeOf(const QWidget *window)
+{
+    QProcess xwininfo;
+    xwininfo.start(QStringLiteral("xwininfo"),
+                   {QStringLiteral("-id"), QString::number(window->winId())});
+    if (!xwininfo.waitForFinished())
+        return {};
+    QPoint place;
+    const QList<QByteArray> lines = xwininfo.readAllStandardOutput().split('\n');
+    for (const QByteArray &line : lines) {
+        const int number = line.sliced(line.lastIndexOf(' ') + 1).toInt();
+        if (line.contains("Absolute upper-left X"))
+            place.setX(number);
+        else if (line.contains("Absolute upper-left Y"))
+            place.setY(number);
+    }
+    return place;
+}
+
+/*!
+    Shows \a window, and waits until it has its frame and the keyboard. A window manager moves a
+    window when it gives it a frame, and who looks for a place in it before that clicks beside it.
+*/
+inline bool open(QWidget *window)
+{
+    window->show();
+    return QTest::qWaitForWindowActive(window)
+        && QTest::qWaitFor([window] { return window->windowHandle()->frameMargins().top() > 0; })
+        && QTest::qWaitFor([window] { return placeOf(window) == window->mapToGlobal(QPoint()); });
+}
+
 inline void moveTo(QPoint target)
 {
     xdotool(
@@ -32,6 +65,8 @@ inline void moveTo(QPoint target)
 
 inline void move(const QWidget *widget, QPoint position)
 {
+    // The place that it has once all that was changed is laid out.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     moveTo(widget->mapToGlobal(position));
 }
 

@@ -56,8 +56,7 @@ struct Window : QMainWindow
 
     bool open()
     {
-        show();
-        return QTest::qWaitForWindowActive(this)
+        return RealMouse::open(this)
             && QTest::qWaitFor([this] { return bottom->stackedWidget()->height() > 0; });
     }
 
@@ -172,7 +171,8 @@ void tst_DockDesktop::barStaysBelowTheContent()
         QTRY_COMPARE(window.size(), size);
         QTRY_COMPARE(gap(), 0);
         const DockButton *button = window.bottom->panel()->findChild<DockButton *>();
-        QVERIFY(window.rect().contains(QRect(button->mapTo(&window, QPoint()), button->size())));
+        QTRY_VERIFY(
+            window.rect().contains(QRect(button->mapTo(&window, QPoint()), button->size())));
     }
 }
 

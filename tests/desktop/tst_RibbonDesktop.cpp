@@ -65,11 +65,7 @@ struct Window : QWidget
         return lastButton();
     }
 
-    bool open()
-    {
-        show();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool open() { return RealMouse::open(this); }
 
     QAction plain{QStringLiteral("Plain")};
     QAction other{QStringLiteral("Other")};
@@ -211,6 +207,7 @@ void tst_RibbonDesktop::pageOffStageGetsNoClicks()
     window.bar->setCurrentIndex(1);
     window.bar->showPage(0);
     QVERIFY(window.home->isVisible());
+    QTRY_VERIFY(window.view->isVisible());
     RealMouse::move(window.view->findChild<RibbonButton *>());
     RealMouse::click();
     QTRY_COMPARE(current.count(), 1);
