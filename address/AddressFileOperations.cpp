@@ -208,7 +208,7 @@ void AddressFileOperations::pasteOne(const QString &source, const QDir &folder, 
     CopyCheck code = check(info, QFileInfo(target));
     bool overwrite = false;
     // The text of the paths does not tell, if there are links in them.
-    if ((code == TargetFree || code == FolderExists) && info.isDir()
+    if ((code == TargetFree || code == FolderExists)
         && isInside(folder.canonicalPath(), info.canonicalFilePath())) {
         code = TargetInsideSource;
     }
@@ -241,7 +241,7 @@ void AddressFileOperations::pasteOne(const QString &source, const QDir &folder, 
         else if (!overwrite)
             return;
     }
-    if (cut && !isTaken(QFileInfo(source)))
+    if (cut && !QFileInfo::exists(source))
         return;
     copy(source, target, overwrite);
     if (cut)

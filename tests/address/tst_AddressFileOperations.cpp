@@ -72,6 +72,7 @@ private Q_SLOTS:
     void removesWhatItCutAfterAFailedCopy();
     void outlivesChangesWhileItAsks_data();
     void outlivesChangesWhileItAsks();
+    void keepsALinkThatLeadsNowhereWhileItAsks();
     void pastesWhatWasOnTheClipboard();
 
     void copiesWhatLinksLeadTo();
@@ -750,6 +751,18 @@ void tst_AddressFileOperations::outlivesChangesWhileItAsks()
     QCOMPARE(answers.texts(), texts);
 }
 
+void tst_AddressFileOperations::keepsALinkThatLeadsNowhereWhileItAsks()
+{
+    const Files files({u"f=new"_s, u"link->f"_s, u"to"_s, u"to/link=old"_s});
+    const Answers answers(
+        {{u"Replace Current"_s, [&] { QVERIFY(QFile::remove(files.path(u"f"_s))); }}});
+    paste({files.path(u"link"_s)}, files.path(u"to"_s), true);
+    QVERIFY(QFileInfo(files.path(u"link"_s)).isSymLink());
+    QVERIFY(files.entries().contains(u"to/link=old"_s));
+    QCOMPARE(files.trashed(), QStringList());
+    QCOMPARE(answers.texts(), QStringList{conflict(u"link"_s)});
+}
+
 void tst_AddressFileOperations::pastesWhatWasOnTheClipboard()
 {
     const Files files({u"a=1"_s, u"b=1"_s, u"c=1"_s, u"to"_s, u"to/a=2"_s});
@@ -843,9 +856,13 @@ void tst_AddressFileOperations::copiesNoFolderIntoItselfThroughLinks()
     const QStringList before = files.entries();
     const Answers answers;
     paste({files.path(u"d"_s)}, files.path(u"way"_s), true);
+    paste({files.path(u"d/e"_s)}, files.path(u"way"_s), true);
+    paste({files.path(u"way"_s)}, files.path(u"d/e"_s), true);
     QCOMPARE(files.entries(), before);
     QCOMPARE(answers.texts(),
-             QStringList{refusal(files.path(u"d"_s), files.path(u"way/d"_s), subfolder)});
+             QStringList({refusal(files.path(u"d"_s), files.path(u"way/d"_s), subfolder),
+                          refusal(files.path(u"d/e"_s), files.path(u"way/e"_s), subfolder),
+                          refusal(files.path(u"way"_s), files.path(u"d/e/way"_s), subfolder)}));
 }
 
 void tst_AddressFileOperations::removesNothingThatItWouldCopy_data()
