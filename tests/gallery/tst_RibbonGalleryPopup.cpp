@@ -54,6 +54,8 @@ private Q_SLOTS:
     void searchForThousandsOfLetters();
     void searchIsClearedWhenItCloses();
     void searchOfAnEmptyCatalogue();
+    void searchIsLeftByTab_data();
+    void searchIsLeftByTab();
 
     void showsItemsNearby();
     void placesWhatItFindsAtOnce_data();
@@ -880,6 +882,36 @@ void tst_RibbonGalleryPopup::searchOfAnEmptyCatalogue()
     QVERIFY(label->isVisible());
     QVERIFY(window.menu()->isVisible());
     window.menu()->close();
+}
+
+void tst_RibbonGalleryPopup::searchIsLeftByTab_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("key");
+    QTest::newRow("all shown, forwards") << 20 << int(Qt::Key_Tab);
+    QTest::newRow("all shown, backwards") << 20 << int(Qt::Key_Backtab);
+    QTest::newRow("some shown, forwards") << 100 << int(Qt::Key_Tab);
+    QTest::newRow("some shown, backwards") << 100 << int(Qt::Key_Backtab);
+}
+
+// In a menu these keys go from action to action, and the popup is its only one: no item gets the
+// focus, whether it is shown or not.
+void tst_RibbonGalleryPopup::searchIsLeftByTab()
+{
+    QFETCH(int, count);
+    QFETCH(int, key);
+    GalleryWindow window;
+    for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s})
+        window.add(title, texts(count));
+    QVERIFY(window.open());
+    QVERIFY(window.openPopup());
+    Gui::click(window.edit());
+    QCOMPARE(QApplication::focusWidget(), window.edit());
+    QTest::keyClick(window.menu()->windowHandle(), Qt::Key(key));
+    QCOMPARE(QApplication::focusWidget(), window.popup());
+    QTest::keyClick(window.menu()->windowHandle(), Qt::Key(key));
+    QCOMPARE(QApplication::focusWidget(), window.menu());
+    window.closePopup();
 }
 
 void tst_RibbonGalleryPopup::showsItemsNearby()
