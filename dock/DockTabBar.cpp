@@ -306,10 +306,7 @@ QRect DockTabBar::closeRect(int index) const
 int DockTabBar::closeAt(QPoint position) const
 {
     const int index = tabAt(position);
-    return index >= 0 && hasCloseButton(index) && isTabEnabled(index)
-            && closeRect(index).contains(position)
-        ? index
-        : -1;
+    return index >= 0 && hasCloseButton(index) && closeRect(index).contains(position) ? index : -1;
 }
 
 void DockTabBar::setHovered(int index)
@@ -330,7 +327,6 @@ void DockTabBar::paintCloseButton(QPainter *painter, int index) const
     option.rect = QRect(QPoint(), place.size());
     option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
     option.state |= QStyle::State_AutoRaise;
-    option.state.setFlag(QStyle::State_Enabled, isEnabled() && isTabEnabled(index));
     option.state.setFlag(QStyle::State_Selected, index == currentIndex());
     option.state.setFlag(QStyle::State_MouseOver, index == m_hovered);
     option.state.setFlag(QStyle::State_Raised, index == m_hovered && index != m_pressed);

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void keepsSizesInStepWithTheTabs();
     void closesByPressAndRelease();
     void changesItsMindBesideTheButton();
-    void ignoresTheButtonOfADisabledTab();
+    void closesADisabledTabLikeABarOfQt();
     void highlightsTheButtonUnderTheMouse();
     void namesTheButton();
     void hidesTheButtonsWhileATabIsMoved();
@@ -42,6 +42,11 @@ private Q_SLOTS:
     void laysTabsOutLikeABarOfQt_data();
     void laysTabsOutLikeABarOfQt();
     void measuresOnlyTheTabsThatChange();
+    void measuresTheNeighboursOfTheCurrentTab();
+    void followsItsStyle();
+    void showsThatTheButtonIsHeld();
+    void paintsWhenTheButtonChanges();
+    void leavesTheButtonsWhileNothingIsMoved();
     void forgetsTheButtonWhenTabsComeAndGo_data();
     void forgetsTheButtonWhenTabsComeAndGo();
 };
@@ -92,6 +97,44 @@ QPoint buttonAt(const QTabBar *bar, int index)
     return {tab.right() - 11, tab.center().y()};
 }
 
+constexpr QColor highlight(243, 144, 141);
+
+// Whether the button of a tab shows this colour.
+bool shows(const Host &host, int index, const QColor &colour)
+{
+    const QImage picture = Gui::picture(host.bar());
+    const QPoint place = buttonAt(host.bar(), index);
+    for (int y = place.y() - 8; y <= place.y() + 8; ++y) {
+        for (int x = place.x() - 8; x <= place.x() + 8; ++x) {
+            if (Gui::pixel(picture, {x, y}) == colour)
+                return true;
+        }
+    }
+    return false;
+}
+
+// Large close buttons on the left.
+class LeftStyle : public QProxyStyle
+{
+public:
+    explicit LeftStyle(QObject *parent) { setParent(parent); }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_TabBar_CloseButtonPosition
+            ? int(QTabBar::LeftSide)
+            : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        return metric == PM_TabCloseIndicatorWidth
+            ? 34
+            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 } // namespace
 
 void tst_DockTabBar::looksLikeABarOfQt_data()
@@ -135,6 +178,18 @@ void tst_DockTabBar::looksLikeABarOfQt_data()
         host.bar()->setTabButton(1, QTabBar::RightSide, new QLabel(u"mine"_s));
         host.bar()->setTabButton(2, QTabBar::LeftSide, new QLabel(u"another"_s));
     }) << QString();
+    const QString states =
+        u"QTabBar#dockTabBar::close-button:selected { background: rgb(0, 99, 0); }"
+        "QTabBar#dockTabBar::close-button:disabled { background: rgb(0, 0, 99); }"_s;
+    QTest::newRow("buttons by state") << Way([](Host &host) {
+        add(host, 3);
+        host.tabs->setTabEnabled(2, false);
+        host.tabs->setCurrentIndex(1);
+    }) << states;
+    QTest::newRow("a disabled bar") << Way([](Host &host) {
+        add(host, 3);
+        host.bar()->setEnabled(false);
+    }) << states;
     for (const Qt::TextElideMode mode : {Qt::ElideRight, Qt::ElideMiddle}) {
         const auto cutShort = [mode](Host &host) {
             host.tabs->setElideMode(mode);
@@ -228,8 +283,38 @@ void tst_DockTabBar::closesByPressAndRelease()
     QTest::mouseDClick(host.windowHandle(), Qt::LeftButton, {},
                        Gui::inWindow(host.bar(), buttonAt(host.bar(), 2)));
     QCOMPARE(requested.constLast(), QVariantList{2});
+    QCOMPARE(requested.count(), 3);
+    QCOMPARE(clicked.count(), 0);
     Gui::click(host.bar(), buttonAt(host.bar(), 1), Qt::RightButton);
     QCOMPARE(host.tabs->currentIndex(), 0);
+    QCOMPARE(clicked.count(), 1);
+
+    // The first tab is one like the others.
+    host.tabs->setCurrentIndex(1);
+    QTest::mouseDClick(host.windowHandle(), Qt::LeftButton, {},
+                       Gui::inWindow(host.bar(), buttonAt(host.bar(), 0)));
+    QCOMPARE(requested.constLast(), QVariantList{0});
+    QCOMPARE(requested.count(), 5);
+    QCOMPARE(host.tabs->currentIndex(), 1);
+
+    // Another button that is let go meanwhile is none of its business.
+    Gui::press(host.bar(), buttonAt(host.bar(), 2));
+    Gui::click(host.bar(), buttonAt(host.bar(), 2), Qt::RightButton);
+    QCOMPARE(requested.count(), 5);
+    Gui::release(host.bar(), buttonAt(host.bar(), 2));
+    QCOMPARE(requested.count(), 6);
+
+    // Only beside the button a double click is one.
+    QSignalSpy twice(host.bar(), &QTabBar::tabBarDoubleClicked);
+    const auto clickTwice = [&](QPoint position, Qt::MouseButton button) {
+        QTest::mouseDClick(host.windowHandle(), button, {}, Gui::inWindow(host.bar(), position));
+    };
+    clickTwice(buttonAt(host.bar(), 2), Qt::LeftButton);
+    QCOMPARE(twice.count(), 0);
+    clickTwice(buttonAt(host.bar(), 2), Qt::RightButton);
+    QCOMPARE(twice.count(), 1);
+    clickTwice(host.bar()->tabRect(2).center() - QPoint(20, 0), Qt::LeftButton);
+    QCOMPARE(twice.count(), 2);
 }
 
 void tst_DockTabBar::changesItsMindBesideTheButton()
@@ -255,16 +340,22 @@ void tst_DockTabBar::changesItsMindBesideTheButton()
     QCOMPARE(host.tabs->count(), 2);
 }
 
-void tst_DockTabBar::ignoresTheButtonOfADisabledTab()
+void tst_DockTabBar::closesADisabledTabLikeABarOfQt()
 {
-    Host host(true);
-    add(host, 3);
-    host.tabs->setTabEnabled(1, false);
-    QVERIFY(host.open());
-    QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
-    Gui::click(host.bar(), buttonAt(host.bar(), 1));
-    QCOMPARE(requested.count(), 0);
-    QCOMPARE(host.tabs->currentIndex(), 0);
+    for (const bool ours : {false, true}) {
+        Host host(ours);
+        add(host, 3);
+        host.tabs->setTabEnabled(1, false);
+        QVERIFY(host.open());
+        QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
+        Gui::click(host.bar(), buttonAt(host.bar(), 1));
+        QCOMPARE(requested.count(), 1);
+        QCOMPARE(requested.constFirst(), QVariantList{1});
+        QCOMPARE(host.tabs->currentIndex(), 0);
+        host.bar()->setEnabled(false);
+        Gui::click(host.bar(), buttonAt(host.bar(), 2));
+        QCOMPARE(requested.count(), 1);
+    }
 }
 
 void tst_DockTabBar::highlightsTheButtonUnderTheMouse()
@@ -301,12 +392,18 @@ void tst_DockTabBar::namesTheButton()
     add(host, 2);
     host.tabs->setTabToolTip(1, u"the tab"_s);
     QVERIFY(host.open());
+    bool handled = false;
     const auto tip = [&](QPoint position) {
         QHelpEvent event(QEvent::ToolTip, position, host.bar()->mapToGlobal(position));
-        QCoreApplication::sendEvent(host.bar(), &event);
+        handled = QCoreApplication::sendEvent(host.bar(), &event);
         return QToolTip::text();
     };
-    QCOMPARE(tip(buttonAt(host.bar(), 1)), u"Close Tab"_s);
+    for (const int index : {0, 1}) {
+        QCOMPARE(tip(buttonAt(host.bar(), index)), u"Close Tab"_s);
+        QVERIFY(handled);
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
     QCOMPARE(tip(host.bar()->tabRect(1).center() - QPoint(20, 0)), u"the tab"_s);
     QToolTip::hideText();
     QTRY_VERIFY(!QToolTip::isVisible());
@@ -332,6 +429,11 @@ void tst_DockTabBar::hidesTheButtonsWhileATabIsMoved()
     Gui::press(host.bar(), from);
     for (int x = 0; x <= 20; x += 5)
         Gui::moveMouse(host.bar(), from + QPoint(x, 0));
+    QVERIFY(!dark());
+    // Nor do they come back on the way back, or with another button.
+    Gui::moveMouse(host.bar(), from + QPoint(1, 0));
+    QVERIFY(!dark());
+    Gui::click(host.bar(), from + QPoint(1, 0), Qt::RightButton);
     QVERIFY(!dark());
     Gui::release(host.bar(), from + QPoint(20, 0));
     QTRY_VERIFY(dark());
@@ -522,6 +624,131 @@ void tst_DockTabBar::measuresOnlyTheTabsThatChange()
     QVERIFY(most > 0);
 }
 
+void tst_DockTabBar::measuresTheNeighboursOfTheCurrentTab()
+{
+    // In a full bar nothing is laid out again afterwards.
+    for (const int place : {3, 4, 5, 6, 7}) {
+        QList<int> widths[2];
+        for (const bool ours : {false, true}) {
+            Host host(ours,
+                      u"QTabBar::tab:previous-selected { padding-right: 28px; }"
+                      "QTabBar::tab:next-selected { padding-left: 23px; }"_s);
+            add(host, 12);
+            host.tabs->setCurrentIndex(5);
+            QVERIFY(host.open());
+            host.tabs->insertTab(place, new QWidget, u"another"_s);
+            for (int i = 0; i < host.bar()->count(); ++i)
+                widths[ours] << host.bar()->tabRect(i).width();
+        }
+        QCOMPARE(widths[true], widths[false]);
+    }
+}
+
+void tst_DockTabBar::followsItsStyle()
+{
+    DockTabWidget tabs;
+    tabs.resize(800, 100);
+    QVERIFY(Gui::open(&tabs));
+    for (int i = 0; i < 3; ++i)
+        tabs.addTab(new QWidget, u"document %1.txt"_s.arg(i));
+    QCoreApplication::processEvents();
+    const QRect before = tabs.tabBar()->tabRect(1);
+    const int size = tabs.style()->pixelMetric(QStyle::PM_TabCloseIndicatorWidth);
+    tabs.tabBar()->setStyle(new LeftStyle(&tabs));
+    QCoreApplication::processEvents();
+    const QRect tab = tabs.tabBar()->tabRect(1);
+    QCOMPARE(tab.width(), before.width() + 34 - size);
+
+    QSignalSpy requested(tabs.tabBar(), &QTabBar::tabCloseRequested);
+    Gui::click(tabs.tabBar(), QPoint(tab.left() + 20, tab.center().y()));
+    QCOMPARE(requested.count(), 1);
+    Gui::click(tabs.tabBar(), QPoint(tab.right() - 12, tab.center().y()));
+    QCOMPARE(requested.count(), 1);
+}
+
+void tst_DockTabBar::showsThatTheButtonIsHeld()
+{
+    const QColor blue(0, 0, 255);
+    Host host(true, u"QTabBar#dockTabBar::close-button:pressed { background: rgb(0, 0, 255); }"_s);
+    add(host, 3);
+    QVERIFY(host.open());
+    for (const int index : {0, 1}) {
+        const QPoint button = buttonAt(host.bar(), index) + QPoint(0, 5);
+        const QPoint beside = button - QPoint(40, 0);
+        Gui::moveMouse(host.bar(), button);
+        QTRY_VERIFY(shows(host, index, highlight));
+        Gui::press(host.bar(), button);
+        QTRY_VERIFY(shows(host, index, blue));
+        QVERIFY(!shows(host, index, highlight));
+        Gui::moveMouse(host.bar(), beside);
+        QTRY_VERIFY(!shows(host, index, blue));
+        QVERIFY(!shows(host, index, highlight));
+        Gui::moveMouse(host.bar(), button);
+        QTRY_VERIFY(shows(host, index, blue));
+        Gui::release(host.bar(), button);
+        QTRY_VERIFY(!shows(host, index, blue));
+        QVERIFY(shows(host, index, highlight));
+    }
+}
+
+void tst_DockTabBar::paintsWhenTheButtonChanges()
+{
+    struct Paints : QObject
+    {
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += int(event->type() == QEvent::Paint);
+            return false;
+        }
+        int count = 0;
+    };
+    Host host(true);
+    add(host, 3);
+    QVERIFY(host.open());
+    const QPoint button = buttonAt(host.bar(), 1);
+    Gui::moveMouse(host.bar(), button - QPoint(40, 0));
+    Paints paints;
+    host.bar()->installEventFilter(&paints);
+    const QList<std::function<void()>> steps{[&] { Gui::moveMouse(host.bar(), button); },
+                                             [&] { Gui::press(host.bar(), button); },
+                                             [&] { Gui::release(host.bar(), button); }};
+    for (const auto &step : steps) {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+        paints.count = 0;
+        step();
+        QTRY_VERIFY(paints.count > 0);
+    }
+    host.bar()->removeEventFilter(&paints);
+}
+
+void tst_DockTabBar::leavesTheButtonsWhileNothingIsMoved()
+{
+    for (const bool movable : {false, true}) {
+        Host host(true);
+        add(host, 3);
+        host.tabs->setMovable(movable);
+        QVERIFY(host.open());
+        const QPoint text = host.bar()->tabRect(0).center() - QPoint(20, 0);
+        const QRect other = host.bar()->tabRect(2);
+        const QImage before = Gui::picture(host.bar()).copy(other);
+        Gui::press(host.bar(), text);
+        // Not far enough, too many buttons, or a bar whose tabs stay where they are.
+        Gui::moveMouse(host.bar(), text + QPoint(3, 0));
+        QCOMPARE(Gui::picture(host.bar()).copy(other), before);
+        if (movable)
+            Gui::press(host.bar(), text, Qt::RightButton);
+        for (int x = 5; x <= 20; x += 5)
+            Gui::moveMouse(host.bar(), text + QPoint(x, 0));
+        QCOMPARE(Gui::picture(host.bar()).copy(other), before);
+        Gui::moveMouse(host.bar(), buttonAt(host.bar(), 2));
+        QVERIFY(!shows(host, 2, highlight));
+        if (movable)
+            Gui::release(host.bar(), text, Qt::RightButton);
+        Gui::release(host.bar(), text);
+    }
+}
+
 void tst_DockTabBar::forgetsTheButtonWhenTabsComeAndGo_data()
 {
     QTest::addColumn<bool>("comes");
@@ -542,23 +769,12 @@ void tst_DockTabBar::forgetsTheButtonWhenTabsComeAndGo()
             delete host.tabs->widget(0);
         QCoreApplication::processEvents();
     };
-    const auto isRed = [&] {
-        const QImage picture = Gui::picture(host.bar());
-        const QPoint place = buttonAt(host.bar(), 1);
-        for (int y = place.y() - 8; y <= place.y() + 8; ++y) {
-            for (int x = place.x() - 8; x <= place.x() + 8; ++x) {
-                if (Gui::pixel(picture, {x, y}) == QColor(243, 144, 141))
-                    return true;
-            }
-        }
-        return false;
-    };
     QSignalSpy requested(host.bar(), &QTabBar::tabCloseRequested);
     const QPoint button = buttonAt(host.bar(), 1);
     Gui::moveMouse(host.bar(), button);
-    QTRY_VERIFY(isRed());
+    QTRY_VERIFY(shows(host, 1, highlight));
     change();
-    QVERIFY(!isRed());
+    QVERIFY(!shows(host, 1, highlight));
 
     Gui::press(host.bar(), button);
     change();
