@@ -90,6 +90,7 @@ private Q_SLOTS:
     void renames();
     void renamesNothing_data();
     void renamesNothing();
+    void renamesNothingThatMayNotBeWritten();
     void renamesOneEntryOnly();
     void actsOnItsFolderWithoutACurrentEntry();
 
@@ -1265,6 +1266,20 @@ void tst_AddressTree::renamesNothing()
     }
 }
 
+// Qt lets nothing be renamed that may not be written, and would complain.
+void tst_AddressTree::renamesNothingThatMayNotBeWritten()
+{
+    const Unprivileged user;
+    const Files files({u"f=1"_s});
+    QVERIFY(QFile::setPermissions(files.path(u"f"_s), QFile::ReadUser));
+    Tree tree(files);
+    QVERIFY(tree.open());
+    tree.click(u"f"_s);
+    tree.key(Qt::Key_F2);
+    QVERIFY(!tree.editor());
+    QCOMPARE(tree.selected(), QStringList{u"f"_s});
+}
+
 void tst_AddressTree::renamesOneEntryOnly()
 {
     const Files files({u"a=1"_s, u"b=1"_s});
@@ -1343,6 +1358,7 @@ void tst_AddressTree::tellsMoveFromCopyByTheDrive_data()
         << QStringList{u"/tmp/norvane-none"_s, u"/etc/norvane-none"_s} << true;
     QTest::newRow("none") << QStringList() << false;
     QTest::newRow("short") << QStringList{u"/t"_s} << false;
+    QTest::newRow("relative") << QStringList{u"norvane-none"_s} << true;
 }
 
 void tst_AddressTree::tellsMoveFromCopyByTheDrive()
@@ -1352,6 +1368,8 @@ void tst_AddressTree::tellsMoveFromCopyByTheDrive()
     const Files files;
     if (!files.path().startsWith(u"/tmp/"_s))
         QSKIP("temporary files are not where the table has them");
+    const auto back = qScopeGuard([here = QDir::currentPath()] { QDir::setCurrent(here); });
+    QVERIFY(QDir::setCurrent(files.path()));
     // While it is edited the path has the other separators.
     for (const QString &root : {files.path(), files.path().replace(u'/', u'\\')}) {
         Tree tree(files);
