@@ -199,10 +199,11 @@ void tst_DockTabBar::looksLikeABarOfQt_data()
         };
         QTest::addRow("cut short, %d", int(mode)) << Way(cutShort) << QString();
     }
-    QTest::newRow("an application's sheet") << Way([](Host &host) { add(host, 3); })
-                                            << u"QTabBar::tab:selected { font: bold; }"
-                                               "QTabBar::tab:last { padding-right: 30px; }"
-                                               "QTabBar::tab:first { padding-left: 25px; }"_s;
+    QTest::newRow("an application's sheet")
+        << Way([](Host &host) { add(host, 3); })
+        << u"QTabBar#dockTabBar::tab:selected { font: bold; }"
+           "QTabBar#dockTabBar::tab:last { padding-right: 30px; }"
+           "QTabBar#dockTabBar::tab:first { padding-left: 25px; }"_s;
 }
 
 void tst_DockTabBar::looksLikeABarOfQt()
@@ -456,16 +457,17 @@ void tst_DockTabBar::laysTabsOutLikeABarOfQt_data()
 {
     QTest::addColumn<QString>("more");
     QTest::addColumn<Qt::TextElideMode>("mode");
-    QTest::newRow("the last is wider") << u"QTabBar::tab:selected { font: bold; }"
-                                          "QTabBar::tab:last { padding-right: 30px; }"_s
+    QTest::newRow("the last is wider") << u"QTabBar#dockTabBar::tab:selected { font: bold; }"
+                                          "QTabBar#dockTabBar::tab:last { padding-right: 30px; }"_s
                                        << Qt::ElideNone;
-    QTest::newRow("the first is wider") << u"QTabBar::tab:first { padding-left: 25px; }"
-                                           "QTabBar::tab:disabled { padding-left: 14px; }"_s
-                                        << Qt::ElideRight;
+    QTest::newRow("the first is wider")
+        << u"QTabBar#dockTabBar::tab:first { padding-left: 25px; }"
+           "QTabBar#dockTabBar::tab:disabled { padding-left: 14px; }"_s
+        << Qt::ElideRight;
     QTest::newRow("neighbours are wider")
-        << u"QTabBar::tab:previous-selected { padding-right: 28px; }"
-           "QTabBar::tab:next-selected { padding-left: 23px; }"
-           "QTabBar::tab:only-one { padding-left: 60px; }"_s
+        << u"QTabBar#dockTabBar::tab:previous-selected { padding-right: 28px; }"
+           "QTabBar#dockTabBar::tab:next-selected { padding-left: 23px; }"
+           "QTabBar#dockTabBar::tab:only-one { padding-left: 60px; }"_s
         << Qt::ElideMiddle;
 }
 
@@ -631,8 +633,8 @@ void tst_DockTabBar::measuresTheNeighboursOfTheCurrentTab()
         QList<int> widths[2];
         for (const bool ours : {false, true}) {
             Host host(ours,
-                      u"QTabBar::tab:previous-selected { padding-right: 28px; }"
-                      "QTabBar::tab:next-selected { padding-left: 23px; }"_s);
+                      u"QTabBar#dockTabBar::tab:previous-selected { padding-right: 28px; }"
+                      "QTabBar#dockTabBar::tab:next-selected { padding-left: 23px; }"_s);
             add(host, 12);
             host.tabs->setCurrentIndex(5);
             QVERIFY(host.open());
