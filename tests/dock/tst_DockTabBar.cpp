@@ -393,15 +393,15 @@ void tst_DockTabBar::namesTheButton()
     add(host, 2);
     host.tabs->setTabToolTip(1, u"the tab"_s);
     QVERIFY(host.open());
-    bool handled = false;
+    // What the bar did not answer, the window would.
+    host.setToolTip(u"the window"_s);
     const auto tip = [&](QPoint position) {
         QHelpEvent event(QEvent::ToolTip, position, host.bar()->mapToGlobal(position));
-        handled = QCoreApplication::sendEvent(host.bar(), &event);
+        QCoreApplication::sendEvent(host.bar(), &event);
         return QToolTip::text();
     };
     for (const int index : {0, 1}) {
         QCOMPARE(tip(buttonAt(host.bar(), index)), u"Close Tab"_s);
-        QVERIFY(handled);
         QToolTip::hideText();
         QTRY_VERIFY(!QToolTip::isVisible());
     }
