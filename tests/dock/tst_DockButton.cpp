@@ -87,6 +87,12 @@ void tst_DockButton::stacksTwoIconsInAColumn()
     QCOMPARE(at(button, {12, 25}).alpha(), 0);
     for (int y : {28, 38, 49})
         QCOMPARE(at(button, {12, y}), QColor(Qt::blue));
+
+    // What an icon has for a button that is on counts only for one that stands alone.
+    QIcon other = icon(Qt::blue);
+    other.addPixmap(icon(Qt::green).pixmap(96), QIcon::Normal, QIcon::On);
+    button.setIcons({icon(Qt::red), other});
+    QCOMPARE(at(button, {12, 38}), QColor(Qt::blue));
 }
 
 void tst_DockButton::showsOnlyTheFirstOfTwoIconsInARow()
