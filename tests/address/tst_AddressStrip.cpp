@@ -54,6 +54,7 @@ private Q_SLOTS:
     void standsCrumbsFromTheRight();
     void asksForNoRoomForItsCrumbs();
     void replacesCrumbsAtOnce();
+    void reportsThePathOfEveryChange();
     void followsAClickedCrumb();
     void followsAPickedFolder();
     void showsFoldersThatAreGone();
@@ -505,6 +506,7 @@ void tst_AddressStrip::replacesCrumbsAtOnce()
     Window window;
     QVERIFY(window.open());
     window.strip->setPath(QStringLiteral("/one/two/three"));
+    QVERIFY(waitForCrumbs(window.strip));
     const QList<AddressEntry *> before = entriesOf(window.strip);
     bool visible = false;
     QObject::connect(window.strip, &AddressStrip::signalPathChanged, &window, [&] {
@@ -517,6 +519,23 @@ void tst_AddressStrip::replacesCrumbsAtOnce()
     QCOMPARE(window.strip->findChildren<AddressEntry *>().size(), 2);
     QCOMPARE(window.strip->findChildren<QLabel *>().size(), 1);
     QVERIFY(waitForCrumbs(window.strip));
+}
+
+void tst_AddressStrip::reportsThePathOfEveryChange()
+{
+    AddressStrip strip;
+    strip.setPath(QStringLiteral("/usr"));
+    const QMetaObject::Connection onward =
+        QObject::connect(&strip, &AddressStrip::signalPathChanged, &strip,
+                         [&strip] { strip.setPath(QStringLiteral("/usr/lib")); });
+    const QSignalSpy changes(&strip, &AddressStrip::signalPathChanged);
+    // Who hears of a change after one that navigates on still hears of this change.
+    strip.setPath(QStringLiteral("/usr/share"));
+    QCOMPARE(changes,
+             (QList{QVariantList{QStringLiteral("/usr/lib")},
+                    QVariantList{QStringLiteral("/usr/share")}}));
+    QVERIFY(QObject::disconnect(onward));
+    QCOMPARE(strip.path(), QStringLiteral("/usr/lib"));
 }
 
 void tst_AddressStrip::followsAClickedCrumb()
