@@ -25,6 +25,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QDrag>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStatusBar>
@@ -104,7 +105,11 @@ void MainWindow::closeEvent(QCloseEvent *event)
         saveLayout();
     else
         resetLayout();
-    event->setAccepted(m_files->closeAll());
+    // What is being dragged has a window of its own, which would keep the program running. Its
+    // source is still needed, so that no document goes before the window.
+    if (findChild<QDrag *>())
+        QDrag::cancel();
+    event->setAccepted(isHidden() || m_files->mayCloseAll());
 }
 
 void MainWindow::changeEvent(QEvent *event)

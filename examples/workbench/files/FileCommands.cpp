@@ -147,6 +147,11 @@ bool FileCommands::closeAll()
     return close(m_tabs->documents());
 }
 
+bool FileCommands::mayCloseAll()
+{
+    return mayClose(m_tabs->documents());
+}
+
 QString FileCommands::openFile(const QString &path)
 {
     if (Document *document = m_tabs->find(path)) {
@@ -232,11 +237,16 @@ bool FileCommands::mayClose(Document *document)
     }
 }
 
+bool FileCommands::mayClose(const QList<Document *> &documents)
+{
+    return std::all_of(documents.begin(), documents.end(),
+                       [this](Document *document) { return mayClose(document); });
+}
+
 bool FileCommands::close(const QList<Document *> &documents)
 {
     // All are asked first: a cancelled close must not have closed half of them.
-    if (!std::all_of(documents.begin(), documents.end(),
-                     [this](Document *document) { return mayClose(document); }))
+    if (!mayClose(documents))
         return false;
     for (Document *document : documents)
         m_tabs->remove(document);

@@ -56,6 +56,8 @@ public:
     bool closeOthers(Document *document);
     bool closeAll();
     bool close(const QList<Document *> &documents);
+    //! Asks for each unsaved document, and leaves all of them open.
+    bool mayCloseAll();
 
 Q_SIGNALS:
     //! Something went well that the user cannot see otherwise.
@@ -68,6 +70,7 @@ private:
     bool saveTo(Document *document, const QString &path);
     bool mayReplace(const Document *document);
     bool mayClose(Document *document);
+    bool mayClose(const QList<Document *> &documents);
     void warn(const QString &title, const QString &text, const QString &reason);
 
     DocumentTabs *m_tabs;
