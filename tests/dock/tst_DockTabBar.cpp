@@ -310,8 +310,10 @@ void tst_DockTabBar::closesByPressAndRelease()
     const auto clickTwice = [&](QPoint position, Qt::MouseButton button) {
         QTest::mouseDClick(host.windowHandle(), button, {}, Gui::inWindow(host.bar(), position));
     };
-    clickTwice(buttonAt(host.bar(), 2), Qt::LeftButton);
-    QCOMPARE(twice.count(), 0);
+    for (const int index : {0, 2}) {
+        clickTwice(buttonAt(host.bar(), index), Qt::LeftButton);
+        QCOMPARE(twice.count(), 0);
+    }
     clickTwice(buttonAt(host.bar(), 2), Qt::RightButton);
     QCOMPARE(twice.count(), 1);
     clickTwice(host.bar()->tabRect(2).center() - QPoint(20, 0), Qt::LeftButton);
