@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Patience.h"
+
 #include <address/AddressEntry.h>
 #include <address/AddressStrip.h>
 
@@ -35,11 +37,14 @@ inline QStringList crumbsOf(const Norvane::AddressStrip *strip)
 //! Crumbs are shown when control returns to the event loop.
 inline bool waitForCrumbs(const Norvane::AddressStrip *strip)
 {
-    return QTest::qWaitFor([strip] {
-        const QList<Norvane::AddressEntry *> entries = entriesOf(strip);
-        return std::all_of(entries.begin(), entries.end(),
-                           [](const Norvane::AddressEntry *entry) { return entry->isVisible(); });
-    });
+    return QTest::qWaitFor(
+        [strip] {
+            const QList<Norvane::AddressEntry *> entries = entriesOf(strip);
+            return std::all_of(
+                entries.begin(), entries.end(),
+                [](const Norvane::AddressEntry *entry) { return entry->isVisible(); });
+        },
+        patience);
 }
 
 inline bool isEditing(const Norvane::AddressStrip *strip)

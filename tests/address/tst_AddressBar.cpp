@@ -164,7 +164,7 @@ public:
 
     bool open()
     {
-        if (!Gui::open(this) || !QTest::qWaitForWindowActive(this))
+        if (!Gui::open(this) || !QTest::qWaitForWindowActive(this, patience))
             return false;
         Gui::moveMouse(patch, patch->rect().center());
         return true;
@@ -223,7 +223,7 @@ public:
                 rows << model->index(row, 0, root).data().toString();
             return rows;
         };
-        if (!QTest::qWaitFor([&] { return rows() == entries; }))
+        if (!QTest::qWaitFor([&] { return rows() == entries; }, patience))
             return false;
         const QRect place = view->visualRect(model->index(path));
         const QPoint position = place.topLeft() + QPoint(30, place.height() / 2);
@@ -1225,7 +1225,7 @@ void tst_AddressBar::isDeletedWithTheFocusAndItsWindow()
     auto bar = std::make_unique<AddressBar>();
     bar->setPath(QStringLiteral("/usr"));
     QVERIFY(Gui::open(bar.get()));
-    QVERIFY(QTest::qWaitForWindowActive(bar.get()));
+    QVERIFY(QTest::qWaitForWindowActive(bar.get(), patience));
     const AddressStrip *strip = stripOf(bar.get());
     Gui::click(strip, QPoint(strip->width() - 3, 12));
     QVERIFY(isEditing(strip));

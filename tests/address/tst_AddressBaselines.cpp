@@ -113,7 +113,7 @@ void tst_AddressBaselines::bar()
     QApplication::setCursorFlashTime(0);
     Window window;
     QVERIFY(Gui::open(&window));
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     Gui::moveMouse(&window, QPoint(250, 38));
     prepare(window);
     for (int i = 0; i < 3; ++i)

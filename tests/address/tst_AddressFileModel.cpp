@@ -184,7 +184,7 @@ void tst_AddressFileModel::isDeletedWhileItReads()
         model->setRootPath(files.path());
         const QModelIndex root = model->index(files.path());
         // At once, and when a part is there.
-        QVERIFY(i % 2 == 0 || QTest::qWaitFor([&] { return model->rowCount(root) > 0; }));
+        QVERIFY(i % 2 == 0 || QTest::qWaitFor([&] { return model->rowCount(root) > 0; }, patience));
     }
 }
 

@@ -132,7 +132,7 @@ public:
 
     bool open()
     {
-        if (!Gui::open(this) || !QTest::qWaitForWindowActive(this))
+        if (!Gui::open(this) || !QTest::qWaitForWindowActive(this, patience))
             return false;
         Gui::moveMouse(patch, patch->rect().center());
         return true;
@@ -1146,7 +1146,7 @@ void tst_AddressStrip::leavesTheEditor_data()
     row("other window", [](Window *window) {
         QWidget other;
         QVERIFY(Gui::open(&other));
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(QTest::qWaitForWindowActive(&other, patience));
         QTRY_VERIFY(!window->strip->hasFocus());
     });
     row("click into other window", [](Window *window) {

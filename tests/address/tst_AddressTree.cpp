@@ -127,7 +127,7 @@ public:
     bool open(const QString &name = {})
     {
         slotPathChanged(name.isEmpty() ? m_files.path() : m_files.path(name));
-        return Gui::open(this) && QTest::qWaitForWindowActive(this) && load();
+        return Gui::open(this) && QTest::qWaitForWindowActive(this, patience) && load();
     }
 
     //! Rows come first and find their order then: who clicks in between hits another.
@@ -137,12 +137,14 @@ public:
         const QDir folder(files()->rootPath());
         const QStringList names = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot,
                                                    QDir::Name | QDir::IgnoreCase | QDir::DirsFirst);
-        return QTest::qWaitFor([this, names] {
-            QStringList rows;
-            for (int row = 0; row < files()->rowCount(rootIndex()); ++row)
-                rows << files()->fileName(files()->index(row, 0, rootIndex()));
-            return rows == names;
-        });
+        return QTest::qWaitFor(
+            [this, names] {
+                QStringList rows;
+                for (int row = 0; row < files()->rowCount(rootIndex()); ++row)
+                    rows << files()->fileName(files()->index(row, 0, rootIndex()));
+                return rows == names;
+            },
+            patience);
     }
 
     QFileSystemModel *files() const { return qobject_cast<QFileSystemModel *>(model()); }
@@ -485,7 +487,7 @@ void tst_AddressTree::actsOnNothingBeforeItShowsAFolder()
     QVERIFY(QDir::setCurrent(files.path(u"cwd"_s)));
     const auto back = qScopeGuard([here] { QDir::setCurrent(here); });
     Tree tree(files);
-    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree));
+    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree, patience));
     QCOMPARE(tree.targetPath(), QString());
     toClipboard({files.path(u"f"_s)});
     tree.setFocus();
@@ -847,7 +849,7 @@ void tst_AddressTree::offersWhatCanBeDone()
     // A link to nothing is only found by its row.
     tree.files()->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
     tree.slotPathChanged(files.path());
-    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree));
+    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree, patience));
     QTRY_COMPARE(tree.files()->rowCount(tree.rootIndex()), 5);
     for (const QString &name : selected)
         tree.click(name, Qt::ControlModifier);
@@ -885,7 +887,7 @@ void tst_AddressTree::showsMenusWithoutADestination()
 {
     const Files files;
     Tree tree(files);
-    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree));
+    QVERIFY(Gui::open(&tree) && QTest::qWaitForWindowActive(&tree, patience));
     QCOMPARE(menuAt(&tree, tree.emptyPosition()).constFirst(), u"Paste"_s);
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Patience.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QProcess>
@@ -51,9 +53,11 @@ inline QPoint placeOf(const QWidget *window)
 inline bool open(QWidget *window)
 {
     window->show();
-    return QTest::qWaitForWindowActive(window)
-        && QTest::qWaitFor([window] { return window->windowHandle()->frameMargins().top() > 0; })
-        && QTest::qWaitFor([window] { return placeOf(window) == window->mapToGlobal(QPoint()); });
+    return QTest::qWaitForWindowActive(window, patience)
+        && QTest::qWaitFor([window] { return window->windowHandle()->frameMargins().top() > 0; },
+                           patience)
+        && QTest::qWaitFor([window] { return placeOf(window) == window->mapToGlobal(QPoint()); },
+                           patience);
 }
 
 inline void moveTo(QPoint target)

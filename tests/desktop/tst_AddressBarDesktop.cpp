@@ -59,8 +59,8 @@ struct Window : QWidget
     bool open()
     {
         show();
-        return QTest::qWaitForWindowActive(this)
-            && QTest::qWaitFor([this] { return showsCrumbs(); });
+        return QTest::qWaitForWindowActive(this, patience)
+            && QTest::qWaitFor([this] { return showsCrumbs(); }, patience);
     }
 
     QString path(const QString &name) const { return folder.filePath(name); }
@@ -83,7 +83,7 @@ struct Window : QWidget
     {
         moveToFreePlace();
         RealMouse::click();
-        return QTest::qWaitFor([this] { return strip->hasFocus(); });
+        return QTest::qWaitFor([this] { return strip->hasFocus(); }, patience);
     }
 
     bool showsCrumbs() const
@@ -233,7 +233,7 @@ void tst_AddressBarDesktop::leavesTheEditor_data()
         QWidget other;
         other.setGeometry(100, 400, 200, 100);
         other.show();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(QTest::qWaitForWindowActive(&other, patience));
         RealMouse::move(&other);
         RealMouse::click();
         QTRY_VERIFY(!window.strip->hasFocus());
@@ -273,7 +273,7 @@ void tst_AddressBarDesktop::refusesAPathThatDoesNotExist()
             RealMouse::click();
             QTRY_VERIFY(!box->isVisible());
         }));
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     QTRY_VERIFY(window.showsCrumbs());
     QCOMPARE(window.bar->path(), window.path(u"a"_s));
     QVERIFY(window.startEditing());

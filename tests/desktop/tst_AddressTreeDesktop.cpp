@@ -51,30 +51,33 @@ public:
     {
         show();
         // A window stands elsewhere once it has a frame.
-        return QTest::qWaitForWindowActive(this)
-            && QTest::qWaitFor([this] { return windowHandle()->frameMargins().top() > 0; })
+        return QTest::qWaitForWindowActive(this, patience)
+            && QTest::qWaitFor([this] { return windowHandle()->frameMargins().top() > 0; },
+                               patience)
             && settle();
     }
 
     //! Waits until it shows what is in the folder, in its final order.
     bool settle()
     {
-        return QTest::qWaitFor([this] {
-            // Folders come first only when the model knows what each entry is.
-            const QStringList names =
-                QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot,
-                                         QDir::DirsFirst | QDir::Name | QDir::IgnoreCase);
-            if (files()->rowCount(rootIndex()) != names.size())
-                return false;
-            int bottom = -1;
-            for (qsizetype row = 0; row < names.size(); ++row) {
-                const QRect place = rect(names.at(row));
-                if (place.top() <= bottom)
+        return QTest::qWaitFor(
+            [this] {
+                // Folders come first only when the model knows what each entry is.
+                const QStringList names =
+                    QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot,
+                                             QDir::DirsFirst | QDir::Name | QDir::IgnoreCase);
+                if (files()->rowCount(rootIndex()) != names.size())
                     return false;
-                bottom = place.bottom();
-            }
-            return true;
-        });
+                int bottom = -1;
+                for (qsizetype row = 0; row < names.size(); ++row) {
+                    const QRect place = rect(names.at(row));
+                    if (place.top() <= bottom)
+                        return false;
+                    bottom = place.bottom();
+                }
+                return true;
+            },
+            patience);
     }
 
     QFileSystemModel *files() const { return qobject_cast<QFileSystemModel *>(model()); }

@@ -57,7 +57,7 @@ struct Window : QMainWindow
     bool open()
     {
         return RealMouse::open(this)
-            && QTest::qWaitFor([this] { return bottom->stackedWidget()->height() > 0; });
+            && QTest::qWaitFor([this] { return bottom->stackedWidget()->height() > 0; }, patience);
     }
 
     QSplitter *outer() const { return docks->findChild<QSplitter *>(Qt::FindDirectChildrenOnly); }

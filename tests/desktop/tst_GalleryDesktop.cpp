@@ -71,7 +71,7 @@ struct Window : GalleryWindow
         if (!RealMouse::open(this))
             return false;
         moveAway();
-        return QTest::qWaitFor([this] { return !strip().isEmpty(); });
+        return QTest::qWaitFor([this] { return !strip().isEmpty(); }, patience);
     }
 
     void moveAway() { RealMouse::move(this, {650, 280}); }

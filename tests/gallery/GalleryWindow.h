@@ -68,7 +68,7 @@ public:
     bool openPopup()
     {
         Gui::click(popupButton());
-        if (!menu()->isVisible() || !QTest::qWaitForWindowExposed(menu()))
+        if (!menu()->isVisible() || !QTest::qWaitForWindowExposed(menu(), patience))
             return false;
         Gui::moveMouse(edit(), {3, 3});
         return true;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Patience.h"
+
 #include "Popup.h"
 #include "Shot.h"
 #include "ribbon/RibbonButton.h"
@@ -45,7 +47,7 @@ public:
     bool open()
     {
         show();
-        if (!QTest::qWaitForWindowExposed(this))
+        if (!QTest::qWaitForWindowExposed(this, patience))
             return false;
         moveMouseTo(this, QPoint(width() - 2, height() - 2));
         return true;

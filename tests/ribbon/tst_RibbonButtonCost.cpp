@@ -183,8 +183,8 @@ bool tst_RibbonButtonCost::open(Window &window)
 {
     m_calls.reset();
     window.show();
-    const bool active = QTest::qWaitForWindowActive(&window);
-    const bool painted = QTest::qWaitFor([&] { return allPainted(window.buttons(0)); });
+    const bool active = QTest::qWaitForWindowActive(&window, patience);
+    const bool painted = QTest::qWaitFor([&] { return allPainted(window.buttons(0)); }, patience);
     window.settle();
     return active && painted;
 }

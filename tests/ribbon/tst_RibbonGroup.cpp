@@ -309,7 +309,7 @@ void tst_RibbonGroup::coloursInABar()
     group->addSeparator();
     bar.resize(400, bar.height());
     bar.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    QVERIFY(QTest::qWaitForWindowExposed(&bar, patience));
     const int width = titleOf(group)->sizeHint().width() + 7;
     QTRY_COMPARE(group->width(), width);
     QTRY_COMPARE(separatorsOf(group).constLast()->x(), width - 4);

@@ -340,7 +340,7 @@ void tst_RibbonTabBar::takesNoFocusByAClick()
     window.setFocusPolicy(Qt::StrongFocus);
     window.setFocus();
     QVERIFY(window.open());
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     QTRY_VERIFY(window.hasFocus());
     Gui::click(window.tab(1));
     QVERIFY(window.tab(1)->isChecked());

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Patience.h"
+
 #include <QtGui/QImage>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
@@ -18,7 +20,7 @@ namespace Gui {
 inline bool open(QWidget *window)
 {
     window->show();
-    return QTest::qWaitForWindowExposed(window);
+    return QTest::qWaitForWindowExposed(window, patience);
 }
 
 inline QPoint inWindow(const QWidget *widget, QPoint position)

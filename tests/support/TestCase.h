@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Patience.h"
+
 #include <QtTest/QTest>
 
 #include <functional>

@@ -144,7 +144,7 @@ public:
     {
         QDir(folder.path()).mkdir(u"elsewhere"_s);
         return writeFile(file()) && writeFile(otherFile()) && Gui::open(&window)
-            && QTest::qWaitForWindowActive(&window);
+            && QTest::qWaitForWindowActive(&window, patience);
     }
 
     QString file() const { return folder.filePath(u"file.xyz"_s); }

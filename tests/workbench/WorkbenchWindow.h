@@ -41,7 +41,7 @@ public:
         QCoreApplication::setApplicationName(QStringLiteral("workbench-test"));
         show();
         activateWindow();
-        opened = QTest::qWaitForWindowActive(this);
+        opened = QTest::qWaitForWindowActive(this, patience);
         open(paths);
         // The first document makes its place among the panels.
         QCoreApplication::processEvents();

@@ -69,7 +69,7 @@ public:
         const QStringList entries =
             QDir(bar->path())
                 .entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name | QDir::DirsFirst);
-        if (!QTest::qWaitFor([&] { return rows() == entries; }))
+        if (!QTest::qWaitFor([&] { return rows() == entries; }, patience))
             QTest::qFail("the tree shows something else", __FILE__, __LINE__);
         const QRect row = tree->visualRect(model->index(path));
         return row.topLeft() + QPoint(30, row.height() / 2);

@@ -47,7 +47,7 @@ public:
         field->setDocument(document);
         window.show();
         window.activateWindow();
-        active = QTest::qWaitForWindowActive(&window);
+        active = QTest::qWaitForWindowActive(&window, patience);
         field->setFocus();
     }
 

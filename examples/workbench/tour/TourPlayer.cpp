@@ -10,7 +10,7 @@
 
 namespace Workbench {
 
-static constexpr int longestWait = 15000;
+static constexpr int longestWait = 60000;
 
 TourPlayer::TourPlayer(QWidget *window, const QString &folder)
     : m_window(window)
