@@ -11,7 +11,8 @@ DockTabWidget::DockTabWidget(QWidget *parent)
     : QTabWidget(parent)
 {
     setObjectName(QStringLiteral("dockTabWidget"));
-    auto *bar = new DockTabBar;
+    // Without a parent it would be shown with no width at first, and come up scrolled.
+    auto *bar = new DockTabBar(this);
     // The name must be there before the bar is polished, or it would keep the height of others.
     bar->setObjectName(QStringLiteral("dockTabBar"));
     setTabBar(bar);

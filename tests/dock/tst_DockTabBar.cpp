@@ -147,6 +147,10 @@ void tst_DockTabBar::looksLikeABarOfQt_data()
         add(host, 3);
         host.tabs->setCurrentIndex(2);
     }) << QString();
+    QTest::newRow("a little wider than the window") << Way([](Host &host) {
+        add(host, 4);
+        host.tabs->setCurrentIndex(1);
+    }) << QString();
     QTest::newRow("wider than the window") << Way([](Host &host) { add(host, 12); }) << QString();
     QTest::newRow("scrolled to the end") << Way([](Host &host) {
         add(host, 12);
