@@ -230,7 +230,6 @@ void tst_Panels::hasRoomForTheProperties()
     QTRY_COMPARE(properties->header()->length(), properties->viewport()->width());
     const QList<QTreeWidgetItem *> changed = properties->findItems(u"Changed"_s, Qt::MatchExactly);
     QCOMPARE(changed.size(), 1);
-qDebug() << properties->viewport()->width() << properties->columnWidth(0) << changed.constFirst()->text(1) << properties->fontMetrics().horizontalAdvance(changed.constFirst()->text(1)) << properties->font() << properties->fontMetrics().averageCharWidth();
     QCOMPARE_GE(properties->visualItemRect(changed.constFirst()).width(),
                 properties->columnWidth(0)
                     + properties->fontMetrics().horizontalAdvance(changed.constFirst()->text(1)));
