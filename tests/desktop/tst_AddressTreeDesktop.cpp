@@ -69,8 +69,8 @@ public:
                 if (files()->rowCount(rootIndex()) != names.size())
                     return false;
                 int bottom = -1;
-                for (qsizetype row = 0; row < names.size(); ++row) {
-                    const QRect place = rect(names.at(row));
+                for (const QString &name : names) {
+                    const QRect place = rect(name);
                     if (place.top() <= bottom)
                         return false;
                     bottom = place.bottom();

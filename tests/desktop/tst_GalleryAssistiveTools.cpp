@@ -31,9 +31,9 @@ void tst_GalleryAssistiveTools::findItemsThatAreFarAway()
     for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s})
         window.add(title, texts);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     window.popupButton()->click();
-    QVERIFY(QTest::qWaitForWindowExposed(window.menu()));
+    QVERIFY(QTest::qWaitForWindowExposed(window.menu(), patience));
     // The search in between finds some of each.
     for (const QString &text : {QString(), u"5"_s, QString()}) {
         window.edit()->setText(text);
