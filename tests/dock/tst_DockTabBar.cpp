@@ -97,6 +97,13 @@ QPoint buttonAt(const QTabBar *bar, int index)
     return {tab.right() - 11, tab.center().y()};
 }
 
+QImage picture(QTabBar *bar, const QRect &part)
+{
+    const QImage whole = Gui::picture(bar);
+    const qreal ratio = whole.devicePixelRatio();
+    return whole.copy({part.topLeft() * ratio, part.size() * ratio});
+}
+
 constexpr QColor highlight(243, 144, 141);
 
 // Whether the button of a tab shows this colour.
@@ -235,7 +242,7 @@ void tst_DockTabBar::looksLikeABarOfQt()
                 if (button->isVisible() && button->inherits("QToolButton"))
                     end = qMin(end, button->x());
             }
-            pictures[ours] = Gui::picture(host.bar()).copy(0, 0, end, host.bar()->height());
+            pictures[ours] = picture(host.bar(), {0, 0, end, host.bar()->height()});
         }
         QCOMPARE(places[true], places[false]);
         QCOMPARE(pictures[true], pictures[false]);
@@ -739,16 +746,16 @@ void tst_DockTabBar::leavesTheButtonsWhileNothingIsMoved()
         QVERIFY(host.open());
         const QPoint text = host.bar()->tabRect(0).center() - QPoint(20, 0);
         const QRect other = host.bar()->tabRect(2);
-        const QImage before = Gui::picture(host.bar()).copy(other);
+        const QImage before = picture(host.bar(), other);
         Gui::press(host.bar(), text);
         // Not far enough, too many buttons, or a bar whose tabs stay where they are.
         Gui::moveMouse(host.bar(), text + QPoint(3, 0));
-        QCOMPARE(Gui::picture(host.bar()).copy(other), before);
+        QCOMPARE(picture(host.bar(), other), before);
         if (movable)
             Gui::press(host.bar(), text, Qt::RightButton);
         for (int x = 5; x <= 20; x += 5)
             Gui::moveMouse(host.bar(), text + QPoint(x, 0));
-        QCOMPARE(Gui::picture(host.bar()).copy(other), before);
+        QCOMPARE(picture(host.bar(), other), before);
         Gui::moveMouse(host.bar(), buttonAt(host.bar(), 2));
         QVERIFY(!shows(host, 2, highlight));
         if (movable)
