@@ -167,7 +167,8 @@ enter_root() {
         esac
     done
     reach "$HOME"
-    settings+=("HOME=$inside" "NORVANE_ROOT=$root"
+    # CMake would take a NORVANE_ROOT for the place of the package.
+    settings+=("HOME=$inside" "NORVANE_PRIVATE_ROOT=$root"
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin)
 
     # shellcheck disable=SC2154 # the command line, set by dev

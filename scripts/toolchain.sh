@@ -97,7 +97,7 @@ prepare() {
     find_qt
     read -ra lacking <<<"$(missing "$@")"
     if [ ${#lacking[@]} -gt 0 ]; then
-        [ -z "${NORVANE_ROOT:-}" ] || die "The private root $NORVANE_ROOT lacks ${lacking[*]}: delete it"
+        [ -z "${NORVANE_PRIVATE_ROOT:-}" ] || die "The private root $NORVANE_PRIVATE_ROOT lacks ${lacking[*]}: delete it"
         if [ -n "$(missing qt)" ]; then
             root=$(root_of "$@")
             [ ! -d "$root" ] || enter_root "$root"

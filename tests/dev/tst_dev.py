@@ -317,7 +317,7 @@ class DevTest(unittest.TestCase):
         self.assertEqual(install.split(" install ")[1], "debhelper dpkg-dev lintian")
 
     def test_asks_to_delete_a_root_that_lacks_something(self):
-        self.machine.environment["NORVANE_ROOT"] = "/some/root"
+        self.machine.environment["NORVANE_PRIVATE_ROOT"] = "/some/root"
         self.machine.is_debian("6.4.2")
         self.machine.makes_roots()
         status, output = self.machine.dev("test")
