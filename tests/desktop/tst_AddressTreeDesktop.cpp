@@ -47,15 +47,7 @@ public:
         slotPathChanged(folder);
     }
 
-    bool open()
-    {
-        show();
-        // A window stands elsewhere once it has a frame.
-        return QTest::qWaitForWindowActive(this, patience)
-            && QTest::qWaitFor([this] { return windowHandle()->frameMargins().top() > 0; },
-                               patience)
-            && settle();
-    }
+    bool open() { return RealMouse::open(this) && settle(); }
 
     //! Waits until it shows what is in the folder, in its final order.
     bool settle()
